@@ -1,0 +1,6 @@
+#pragma once
+#include "peli.h"
+
+namespace pel::core {
+const PelLibraryVersion* GetLibVersion();
+}

@@ -1,0 +1,14 @@
+// Copy: the walkers behind the peliCopy exports (checks, then the row loop).
+#pragma once
+
+#include "peli.h"
+
+namespace pel::datamove {
+
+// All channels of C-channel pixels (C1R, C3R, C4R).
+template <class T, int C>
+PelStatus Copy(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize);
+template <class T, int C>
+PelStatus CopyL(const T* pSrc, PelIntL srcStep, T* pDst, PelIntL dstStep, PeliSizeL roiSize);
+
+}  // namespace pel::datamove

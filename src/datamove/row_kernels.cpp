@@ -1,0 +1,164 @@
+// Vector row kernels of the copy and set family: one source, compiled once per
+// instruction set by Highway, chosen at run time. The baseline target runs the
+// scalar references, so PEL_CPU=scalar gives exactly those.
+//
+// Tails: a row of at least one vector ends with one more full vector that
+// overlaps the previous one (it rewrites a few bytes with the same values),
+// so no access ever leaves the row. Rows shorter than a vector go scalar.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "datamove/row_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <cstring>
+
+#include "core/lanes.h"
+#include "datamove/row_kernels.h"
+#include "datamove/row_scalar.h"
+#include "hwy/cache_control.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace pel::datamove::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
+
+void CopyRowTarget(const void* src, void* dst, size_t bytes, bool /*stream*/) {
+  scalar::CopyRow(static_cast<const uint8_t*>(src), static_cast<uint8_t*>(dst), bytes);
+}
+
+void SetRowTarget(void* dst, size_t pixels, const void* value, int elemBytes, int channels,
+                  bool /*stream*/) {
+  VisitLaneAndChannels(elemBytes, channels, [&](auto lane, auto c) {
+    using U = decltype(lane);
+    scalar::SetRow<U, c()>(static_cast<U*>(dst), pixels, static_cast<const U*>(value));
+  });
+}
+
+#else
+
+// Lanes from `begin` up to the first address aligned for a full vector.
+template <class D, class U>
+size_t LanesToAlignment(D d, const U* p) {
+  const size_t vecBytes = hn::Lanes(d) * sizeof(U);
+  const size_t misalign = reinterpret_cast<uintptr_t>(p) & (vecBytes - 1);
+  return misalign == 0 ? 0 : (vecBytes - misalign) / sizeof(U);
+}
+
+template <class U>
+bool ElementAligned(const U* p) {
+  return reinterpret_cast<uintptr_t>(p) % sizeof(U) == 0;
+}
+
+void CopyRowTarget(const void* srcv, void* dstv, size_t n, bool stream) {
+  const auto* src = static_cast<const uint8_t*>(srcv);
+  auto* dst = static_cast<uint8_t*>(dstv);
+  const hn::ScalableTag<uint8_t> d;
+  const size_t N = hn::Lanes(d);
+  if (n < N) {
+    std::memcpy(dst, src, n);
+    return;
+  }
+  size_t i = 0;
+  if (stream) {
+    // One unaligned vector covers the bytes before the first aligned address.
+    hn::StoreU(hn::LoadU(d, src), d, dst);
+    for (i = LanesToAlignment(d, dst); i + N <= n; i += N) {
+      hn::Stream(hn::LoadU(d, src + i), d, dst + i);
+    }
+    hwy::FlushStream();
+  } else {
+    for (; i + 4 * N <= n; i += 4 * N) {
+      const auto v0 = hn::LoadU(d, src + i);
+      const auto v1 = hn::LoadU(d, src + i + N);
+      const auto v2 = hn::LoadU(d, src + i + 2 * N);
+      const auto v3 = hn::LoadU(d, src + i + 3 * N);
+      hn::StoreU(v0, d, dst + i);
+      hn::StoreU(v1, d, dst + i + N);
+      hn::StoreU(v2, d, dst + i + 2 * N);
+      hn::StoreU(v3, d, dst + i + 3 * N);
+    }
+    for (; i + N <= n; i += N) hn::StoreU(hn::LoadU(d, src + i), d, dst + i);
+  }
+  if (i < n) hn::StoreU(hn::LoadU(d, src + n - N), d, dst + n - N);
+}
+
+// Fills lanes [0, total) of dst with a pattern of period C lanes. pattern
+// holds at least C + Lanes(d) lanes of it, so the vector that starts at lane
+// o is LoadU(pattern + o % C) for any o.
+template <class D, class U = hn::TFromD<D>>
+void FillPattern(D d, U* dst, size_t total, const U* pattern, size_t C, bool stream) {
+  const size_t N = hn::Lanes(d);
+  size_t o = 0;
+  if (stream && ElementAligned(dst)) {
+    hn::StoreU(hn::LoadU(d, pattern), d, dst);
+    o = LanesToAlignment(d, dst);
+  } else {
+    stream = false;
+  }
+  // A run of C vectors is a whole number of periods, so the same C vectors
+  // repeat; load them once for the phase of the first one.
+  using V = decltype(hn::Zero(d));
+  V v[4];
+  for (size_t k = 0; k < C; ++k) v[k] = hn::LoadU(d, pattern + (o + k * N) % C);
+  if (stream) {
+    for (; o + C * N <= total; o += C * N) {
+      for (size_t k = 0; k < C; ++k) hn::Stream(v[k], d, dst + o + k * N);
+    }
+    for (size_t k = 0; o + N <= total; ++k, o += N) hn::Stream(v[k], d, dst + o);
+    hwy::FlushStream();
+  } else {
+    for (; o + C * N <= total; o += C * N) {
+      for (size_t k = 0; k < C; ++k) hn::StoreU(v[k], d, dst + o + k * N);
+    }
+    for (size_t k = 0; o + N <= total; ++k, o += N) hn::StoreU(v[k], d, dst + o);
+  }
+  if (o < total) {
+    const size_t last = total - N;
+    hn::StoreU(hn::LoadU(d, pattern + last % C), d, dst + last);
+  }
+}
+
+template <class U, int C>
+void SetRowT(U* dst, size_t pixels, const U* value, bool stream) {
+  const hn::ScalableTag<U> d;
+  const size_t total = pixels * C;
+  if (total < hn::Lanes(d)) {
+    scalar::SetRow<U, C>(dst, pixels, value);
+    return;
+  }
+  HWY_ALIGN U pattern[HWY_MAX_BYTES / sizeof(U) + 4];
+  for (size_t i = 0; i < hn::Lanes(d) + C; ++i) pattern[i] = value[i % C];
+  FillPattern(d, dst, total, pattern, C, stream);
+}
+
+void SetRowTarget(void* dst, size_t pixels, const void* value, int elemBytes, int channels,
+                  bool stream) {
+  VisitLaneAndChannels(elemBytes, channels, [&](auto lane, auto c) {
+    using U = decltype(lane);
+    SetRowT<U, c()>(static_cast<U*>(dst), pixels, static_cast<const U*>(value), stream);
+  });
+}
+
+#endif
+
+}  // namespace pel::datamove::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace pel::datamove {
+
+HWY_EXPORT(CopyRowTarget);
+HWY_EXPORT(SetRowTarget);
+
+void CopyRow(const void* src, void* dst, size_t bytes, bool stream) {
+  HWY_DYNAMIC_DISPATCH(CopyRowTarget)(src, dst, bytes, stream);
+}
+
+void SetRowAny(void* dst, size_t pixels, const void* value, int elemBytes, int channels,
+               bool stream) {
+  HWY_DYNAMIC_DISPATCH(SetRowTarget)(dst, pixels, value, elemBytes, channels, stream);
+}
+
+}  // namespace pel::datamove
+#endif
