@@ -1,0 +1,41 @@
+# Compares the dynamic symbols of libpeli.so with the declared export list
+# and those of libpelcore.so with its five services. Run with -DNM=...
+# -DPELI=... -DPELCORE=... -DEXPORTS=<peli_exports.txt>.
+function(defined_symbols lib out)
+  execute_process(COMMAND ${NM} -D --defined-only ${lib} OUTPUT_VARIABLE text RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "nm failed on ${lib}")
+  endif()
+  string(REGEX MATCHALL "[^\n]+" lines "${text}")
+  set(names "")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^[0-9a-fA-F]* *[TtWwDdRrBbiV] +([^ @]+)")
+      list(APPEND names "${CMAKE_MATCH_1}")
+    endif()
+  endforeach()
+  list(SORT names COMPARE STRING CASE SENSITIVE)
+  set(${out} "${names}" PARENT_SCOPE)
+endfunction()
+
+function(compare what have want)
+  set(missing ${want})
+  list(REMOVE_ITEM missing ${have})
+  set(extra ${have})
+  list(REMOVE_ITEM extra ${want})
+  if(missing OR extra)
+    message(FATAL_ERROR "${what}: missing [${missing}] unexpected [${extra}]")
+  endif()
+endfunction()
+
+file(STRINGS ${EXPORTS} declared)
+defined_symbols(${PELI} peli)
+compare("libpeli.so" "${peli}" "${declared}")
+list(LENGTH peli peli_count)
+
+set(core_expected ownGetFeature pelFree pelGetMaxCacheSizeB pelMalloc pelMalloc_L)
+defined_symbols(${PELCORE} core)
+compare("libpelcore.so" "${core}" "${core_expected}")
+list(LENGTH core core_count)
+
+message("libpeli.so exports ${peli_count} functions, exactly the declared ones")
+message("libpelcore.so exports ${core_count} functions: ${core}")
