@@ -154,3 +154,33 @@ TEST(CopyEdge, WideContiguousRowPastMergeLimit) {
 }
 
 }  // namespace
+
+namespace {
+
+// The managed copy streams only on request; both ways give the same bytes.
+TEST(CopyManaged, FlagsChangeNothingButSpeed) {
+  peltest::ForEachCpuLevel([] {
+    for (int flags : {0, 1, 2, 3}) {
+      for (Layout l : peltest::AwkwardLayouts(1)) {
+        CheckCopy<Pel8u>(l, l, 11, [flags](Image<Pel8u>& s, Image<Pel8u>& t) {
+          return peliCopyManaged_8u_C1R(s.data(), s.step(), t.data(), t.step(), s.size(), flags);
+        });
+      }
+      const Layout contiguous{1500, 800, 1, 0, 0, false};
+      CheckCopy<Pel8u>(contiguous, contiguous, 12, [flags](Image<Pel8u>& s, Image<Pel8u>& t) {
+        return peliCopyManaged_8u_C1R(s.data(), s.step(), t.data(), t.step(), s.size(), flags);
+      });
+    }
+  });
+  Image<Pel8u> src(Layout{9, 4, 1, 4, 0, false});
+  Image<Pel8u> dst(Layout{9, 4, 1, 4, 0, false});
+  peltest::ExpectPointerThenSizeChecks<2>(
+      {src.data(), dst.data()}, src.size(),
+      [&](const std::array<void*, 2>& p, PeliSize s) {
+        return peliCopyManaged_8u_C1R(static_cast<const Pel8u*>(p[0]), src.step(),
+                                      static_cast<Pel8u*>(p[1]), dst.step(), s, 1);
+      },
+      {&dst.bytes()});
+}
+
+}  // namespace

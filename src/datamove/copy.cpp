@@ -29,26 +29,32 @@ bool RowsAreOneRun(ptrdiff_t srcStep, ptrdiff_t dstStep, uint64_t rowBytes, PelI
   return true;
 }
 
-template <class T, int C, class Step, class Size>
-PelStatus CopyImage(const T* pSrc, Step srcStep, T* pDst, Step dstStep, Size roi) {
+// Copies `rows` rows of `length` bytes. A row is handed to the kernel in
+// pieces of at most 1 GiB, so that the _L copies never pass the kernel a
+// length near the limits of its arithmetic.
+void CopyRows(const void* src, ptrdiff_t srcStep, void* dst, ptrdiff_t dstStep, uint64_t length,
+              PelIntL rows, bool stream) {
+  for (PelIntL y = 0; y < rows; ++y) {
+    const auto* s = static_cast<const uint8_t*>(Row(src, srcStep, y));
+    auto* d = static_cast<uint8_t*>(Row(dst, dstStep, y));
+    for (uint64_t done = 0; done < length; done += kMaxPieceBytes) {
+      const uint64_t piece = length - done < kMaxPieceBytes ? length - done : kMaxPieceBytes;
+      CopyRow(s + done, d + done, static_cast<size_t>(piece), stream);
+    }
+  }
+}
+
+template <class T, int C, class Size>
+PelStatus CopyImage(const T* pSrc, ptrdiff_t srcStep, T* pDst, ptrdiff_t dstStep, Size roi) {
   if (AnyNull(pSrc, pDst)) return pelStatusNullPointer;
   if (BadSize(roi)) return pelStatusBadSize;
   const uint64_t rowBytes = static_cast<uint64_t>(roi.width) * C * sizeof(T);
   const uint64_t total = rowBytes * static_cast<uint64_t>(roi.height);
   const bool stream = StreamsAsPlainCopy(total);
-  uint64_t length = rowBytes;
-  PelIntL rows = roi.height;
   if (RowsAreOneRun<T, C>(srcStep, dstStep, rowBytes, roi.width, roi.height)) {
-    length = total;
-    rows = 1;
-  }
-  for (PelIntL y = 0; y < rows; ++y) {
-    const auto* s = reinterpret_cast<const uint8_t*>(Row(pSrc, srcStep, y));
-    auto* d = reinterpret_cast<uint8_t*>(Row(pDst, dstStep, y));
-    for (uint64_t done = 0; done < length; done += kMaxPieceBytes) {
-      const uint64_t piece = length - done < kMaxPieceBytes ? length - done : kMaxPieceBytes;
-      CopyRow(s + done, d + done, static_cast<size_t>(piece), stream);
-    }
+    CopyRows(pSrc, srcStep, pDst, dstStep, total, 1, stream);
+  } else {
+    CopyRows(pSrc, srcStep, pDst, dstStep, rowBytes, roi.height, stream);
   }
   return pelStatusOk;
 }
@@ -57,12 +63,28 @@ PelStatus CopyImage(const T* pSrc, Step srcStep, T* pDst, Step dstStep, Size roi
 
 template <class T, int C>
 PelStatus Copy(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize) {
-  return CopyImage<T, C, ptrdiff_t>(pSrc, srcStep, pDst, dstStep, roiSize);
+  return CopyImage<T, C>(pSrc, srcStep, pDst, dstStep, roiSize);
 }
 
 template <class T, int C>
 PelStatus CopyL(const T* pSrc, PelIntL srcStep, T* pDst, PelIntL dstStep, PeliSizeL roiSize) {
-  return CopyImage<T, C, ptrdiff_t>(pSrc, srcStep, pDst, dstStep, roiSize);
+  return CopyImage<T, C>(pSrc, srcStep, pDst, dstStep, roiSize);
+}
+
+// The caller decides about the cache: flags bit 0 streams. Rows merge when
+// both steps equal the width and the whole image stays within 32 bits.
+PelStatus CopyManaged(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep, PeliSize roiSize,
+                      int flags) {
+  if (AnyNull(pSrc, pDst)) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  const bool stream = (flags & 1) != 0;
+  const uint64_t total = uint64_t(roiSize.width) * uint64_t(roiSize.height);
+  if (srcStep == roiSize.width && dstStep == roiSize.width && total <= UINT32_MAX) {
+    CopyRows(pSrc, srcStep, pDst, dstStep, total, 1, stream);
+  } else {
+    CopyRows(pSrc, srcStep, pDst, dstStep, uint64_t(roiSize.width), roiSize.height, stream);
+  }
+  return pelStatusOk;
 }
 
 #define PEL_EXPORT PEL_INSTANTIATE_EXPORT
