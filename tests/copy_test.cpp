@@ -66,7 +66,7 @@ TYPED_TEST(CopyPlain, MatchesModelOnAwkwardShapes) {
         Layout d = l;
         d.padBytes = l.padBytes + static_cast<int>(sizeof(T)) * 3;
         d.bottomUp = !l.bottomUp;
-        CheckCopy<T>(l, d, seed++, [fn](Image<T>& s, Image<T>& t) {
+        CheckCopy<T>(l, d, seed++, [fn = fn](Image<T>& s, Image<T>& t) {
           return fn(s.data(), s.step(), t.data(), t.step(), s.size());
         });
       }
@@ -80,7 +80,7 @@ TYPED_TEST(CopyPlain, LargeTwinsMatchModel) {
     for (auto [channels, fn] : PlainCopies<T>::large) {
       uint32_t seed = 100;
       for (Layout l : peltest::AwkwardLayouts(channels)) {
-        CheckCopy<T>(l, l, seed++, [fn](Image<T>& s, Image<T>& t) {
+        CheckCopy<T>(l, l, seed++, [fn = fn](Image<T>& s, Image<T>& t) {
           return fn(s.data(), s.step(), t.data(), t.step(),
                     PeliSizeL{s.size().width, s.size().height});
         });
@@ -96,7 +96,7 @@ TYPED_TEST(CopyPlain, ContiguousRowsAsOneRun) {
     for (auto [channels, fn] : PlainCopies<T>::plain) {
       for (int w : {1, 5, 64, 333}) {
         Layout l{w, 7, channels, 0, 0, false};
-        CheckCopy<T>(l, l, 7, [fn](Image<T>& s, Image<T>& t) {
+        CheckCopy<T>(l, l, 7, [fn = fn](Image<T>& s, Image<T>& t) {
           return fn(s.data(), s.step(), t.data(), t.step(), s.size());
         });
       }
@@ -112,7 +112,7 @@ TYPED_TEST(CopyPlain, StreamingSizesMatchModel) {
     const int width = static_cast<int>(1100000 / sizeof(T) / 100) + 3;  // > 1 MiB in 100 rows
     for (bool contiguous : {true, false}) {
       Layout l{width, 100, 1, contiguous ? 0 : 4 * static_cast<int>(sizeof(T)), 12, false};
-      CheckCopy<T>(l, l, 3, [fn](Image<T>& s, Image<T>& t) {
+      CheckCopy<T>(l, l, 3, [fn = fn](Image<T>& s, Image<T>& t) {
         return fn(s.data(), s.step(), t.data(), t.step(), s.size());
       });
     }

@@ -25,7 +25,7 @@ struct CpuidRegs {
 
 CpuidRegs Cpuid(unsigned leaf, unsigned subleaf = 0) {
   CpuidRegs r;
-  if (__get_cpuid_max(leaf & 0x80000000u, nullptr) < leaf) return r;
+  if (static_cast<unsigned>(__get_cpuid_max(leaf & 0x80000000u, nullptr)) < leaf) return r;
   __cpuid_count(leaf, subleaf, r.a, r.b, r.c, r.d);
   return r;
 }
