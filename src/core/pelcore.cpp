@@ -1,6 +1,7 @@
 // libpelcore: aligned memory, the largest cache size and the feature query.
-// Everything is computed on each call: there is no cached state to guard, and
-// callers ask only when a transfer is large enough for the answer to matter.
+// The processor's answers are read once per process and kept as constants:
+// cpuid can cost microseconds under a hypervisor, and libpeli asks for the
+// cache size on every large transfer.
 #include "pelcore.h"
 
 #include <cpuid.h>
@@ -141,8 +142,10 @@ void pelFree(void* ptr) { std::free(ptr); }
 
 int pelGetMaxCacheSizeB(int* pSizeByte) {
   if (pSizeByte == nullptr) return -8;
-  int64_t size = CacheFromCpuid();
-  if (size <= 0) size = CacheFromSysfs();
+  static const int64_t size = [] {
+    const int64_t fromCpuid = CacheFromCpuid();
+    return fromCpuid > 0 ? fromCpuid : CacheFromSysfs();
+  }();
   if (size <= 0 || size > INT32_MAX) return -1;
   *pSizeByte = static_cast<int>(size);
   return 0;
@@ -150,7 +153,8 @@ int pelGetMaxCacheSizeB(int* pSizeByte) {
 
 int ownGetFeature(uint64_t featureMask) {
   if (featureMask & ~kKnownFeatures) return 0;
-  return (FeatureMask() & featureMask) == featureMask ? 1 : 0;
+  static const uint64_t features = FeatureMask();
+  return (features & featureMask) == featureMask ? 1 : 0;
 }
 
 }  // extern "C"
