@@ -6,13 +6,11 @@
 #include "core/exports.h"
 #include "core/large_transfer.h"
 #include "datamove/row_kernels.h"
+#include "datamove/row_pieces.h"
 
 namespace pel::datamove {
 
 namespace {
-
-// Largest piece of a row that an _L copy hands to the row kernel at once.
-constexpr uint64_t kMaxPieceBytes = 0x40000000;
 
 // Rows that follow each other without a gap are copied as one long row.
 // The 8-bit one-channel copy merges only images below 32768 in both
@@ -29,18 +27,15 @@ bool RowsAreOneRun(ptrdiff_t srcStep, ptrdiff_t dstStep, uint64_t rowBytes, PelI
   return true;
 }
 
-// Copies `rows` rows of `length` bytes. A row is handed to the kernel in
-// pieces of at most 1 GiB, so that the _L copies never pass the kernel a
-// length near the limits of its arithmetic.
+// Copies `rows` rows of `length` bytes, each row in pieces (row_pieces.h).
 void CopyRows(const void* src, ptrdiff_t srcStep, void* dst, ptrdiff_t dstStep, uint64_t length,
               PelIntL rows, bool stream) {
   for (PelIntL y = 0; y < rows; ++y) {
     const auto* s = static_cast<const uint8_t*>(Row(src, srcStep, y));
     auto* d = static_cast<uint8_t*>(Row(dst, dstStep, y));
-    for (uint64_t done = 0; done < length; done += kMaxPieceBytes) {
-      const uint64_t piece = length - done < kMaxPieceBytes ? length - done : kMaxPieceBytes;
-      CopyRow(s + done, d + done, static_cast<size_t>(piece), stream);
-    }
+    ForEachPiece(length, [&](uint64_t offset, uint64_t bytes) {
+      CopyRow(s + offset, d + offset, static_cast<size_t>(bytes), stream);
+    });
   }
 }
 

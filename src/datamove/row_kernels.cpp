@@ -83,53 +83,94 @@ void CopyRowTarget(const void* srcv, void* dstv, size_t n, bool stream) {
   if (i < n) hn::StoreU(hn::LoadU(d, src + n - N), d, dst + n - N);
 }
 
-// Fills lanes [0, total) of dst with a pattern of period C lanes. pattern
-// holds at least C + Lanes(d) lanes of it, so the vector that starts at lane
-// o is LoadU(pattern + o % C) for any o.
-template <class D, class U = hn::TFromD<D>>
-void FillPattern(D d, U* dst, size_t total, const U* pattern, size_t C, bool stream) {
+// Stores kRun vectors that cycle through v[0..C-1] from dst + o on.
+template <bool kStream, size_t kRun, class D, class V, class U = hn::TFromD<D>>
+HWY_INLINE void StoreRun(D d, const V* v, U* HWY_RESTRICT dst) {
   const size_t N = hn::Lanes(d);
-  size_t o = 0;
-  if (stream && ElementAligned(dst)) {
-    hn::StoreU(hn::LoadU(d, pattern), d, dst);
-    o = LanesToAlignment(d, dst);
-  } else {
-    stream = false;
+  for (size_t k = 0; k < kRun; ++k) {
+    if constexpr (kStream) {
+      hn::Stream(v[k], d, dst + k * N);
+    } else {
+      hn::StoreU(v[k], d, dst + k * N);
+    }
   }
-  // A run of C vectors is a whole number of periods, so the same C vectors
-  // repeat; load them once for the phase of the first one.
+}
+
+// Fills lanes [o, total) of dst with a pattern of period C lanes, where o is
+// the caller's start. pattern holds at least C + Lanes(d) lanes of it, so the
+// vector that starts at lane i is LoadU(pattern + i % C) for any i.
+template <size_t C, bool kStream, class D, class U = hn::TFromD<D>>
+HWY_INLINE size_t FillPattern(D d, U* HWY_RESTRICT dst, size_t o, size_t total,
+                              const U* pattern) {
+  const size_t N = hn::Lanes(d);
+  // C vectors are a whole number of periods, so the same C vectors repeat;
+  // load them once for the phase of the first. One-channel fills unroll four.
+  constexpr size_t kRun = C == 1 ? 4 : C;
   using V = decltype(hn::Zero(d));
-  V v[4];
-  for (size_t k = 0; k < C; ++k) v[k] = hn::LoadU(d, pattern + (o + k * N) % C);
-  if (stream) {
-    for (; o + C * N <= total; o += C * N) {
-      for (size_t k = 0; k < C; ++k) hn::Stream(v[k], d, dst + o + k * N);
-    }
-    for (size_t k = 0; o + N <= total; ++k, o += N) hn::Stream(v[k], d, dst + o);
-    hwy::FlushStream();
-  } else {
-    for (; o + C * N <= total; o += C * N) {
-      for (size_t k = 0; k < C; ++k) hn::StoreU(v[k], d, dst + o + k * N);
-    }
-    for (size_t k = 0; o + N <= total; ++k, o += N) hn::StoreU(v[k], d, dst + o);
+  V v[kRun];
+  for (size_t k = 0; k < kRun; ++k) v[k] = hn::LoadU(d, pattern + (o + k * N) % C);
+  for (; o + kRun * N <= total; o += kRun * N) StoreRun<kStream, kRun>(d, v, dst + o);
+  for (size_t k = 0; o + N <= total; ++k, o += N) StoreRun<kStream, 1>(d, v + k, dst + o);
+  return o;
+}
+
+// Large cached fills write a first block with vectors and then copy it on
+// with memcpy: the C library's string instructions store whole cache lines
+// without reading them first, which plain vector stores cannot do. A block is
+// a whole number of pixels, so each copy of it continues the pattern.
+constexpr size_t kFillBlockBytes = 4096;
+
+template <class U, int C>
+bool FillByBlocks(U* dst, size_t total, const U* value) {
+  const size_t bytes = total * sizeof(U);
+  if (bytes < 4 * kFillBlockBytes) return false;
+  const uint8_t* b = reinterpret_cast<const uint8_t*>(value);
+  bool uniform = true;
+  for (size_t i = 1; i < C * sizeof(U); ++i) uniform = uniform && b[i] == b[0];
+  if (uniform) {
+    std::memset(dst, b[0], bytes);
+    return true;
   }
-  if (o < total) {
-    const size_t last = total - N;
-    hn::StoreU(hn::LoadU(d, pattern + last % C), d, dst + last);
-  }
+  constexpr size_t kPixelBytes = C * sizeof(U);
+  constexpr size_t kBlock = kFillBlockBytes / kPixelBytes * kPixelBytes;
+  auto* out = reinterpret_cast<uint8_t*>(dst);
+  const hn::ScalableTag<U> d;
+  HWY_ALIGN U pattern[HWY_MAX_BYTES / sizeof(U) + 4];
+  for (size_t i = 0; i < hn::Lanes(d) + C; ++i) pattern[i] = value[i % C];
+  const size_t firstLanes = kBlock / sizeof(U);
+  const size_t o = FillPattern<C, false>(d, dst, 0, firstLanes, pattern);
+  for (size_t i = o; i < firstLanes; ++i) dst[i] = value[i % C];
+  size_t done = kBlock;
+  for (; done + kBlock <= bytes; done += kBlock) std::memcpy(out + done, out, kBlock);
+  std::memcpy(out + done, out, bytes - done);
+  return true;
 }
 
 template <class U, int C>
 void SetRowT(U* dst, size_t pixels, const U* value, bool stream) {
   const hn::ScalableTag<U> d;
+  const size_t N = hn::Lanes(d);
   const size_t total = pixels * C;
-  if (total < hn::Lanes(d)) {
+  if (total < N) {
     scalar::SetRow<U, C>(dst, pixels, value);
     return;
   }
+  if (!stream && FillByBlocks<U, C>(dst, total, value)) return;
   HWY_ALIGN U pattern[HWY_MAX_BYTES / sizeof(U) + 4];
-  for (size_t i = 0; i < hn::Lanes(d) + C; ++i) pattern[i] = value[i % C];
-  FillPattern(d, dst, total, pattern, C, stream);
+  for (size_t i = 0; i < N + C; ++i) pattern[i] = value[i % C];
+  size_t o;
+  if (stream && ElementAligned(dst)) {
+    // One unaligned vector covers the lanes before the first aligned address.
+    hn::StoreU(hn::LoadU(d, pattern), d, dst);
+    o = FillPattern<C, true>(d, dst, LanesToAlignment(d, dst), total, pattern);
+    hwy::FlushStream();
+  } else {
+    o = FillPattern<C, false>(d, dst, 0, total, pattern);
+  }
+  if (o < total) {
+    const size_t last = total - N;
+    hn::StoreU(hn::LoadU(d, pattern + last % C), d, dst + last);
+  }
 }
 
 void SetRowTarget(void* dst, size_t pixels, const void* value, int elemBytes, int channels,
