@@ -176,6 +176,15 @@ const Case kCases[] = {
      [](Images& m) { return peliCopy_32f_C1R(m.f32Src.f32(), m.f32Src.step, m.f32Dst.f32(), m.f32Dst.step, m.roi); },
      [](Images& m) { m.f32Src.mat.copyTo(m.f32Dst.mat); return 0; },
      [](Images& m) { std::memcpy(m.f32Dst.u8(), m.f32Src.u8(), m.f32Src.bytes(m.h)); return 0; }, false, nullptr},
+    // The same bytes through the copy whose caller picks the stores: flags 0
+    // keeps them cached, which is what memcpy and OpenCV do at these sizes,
+    // while peliCopy_8u_C1R bypasses the cache above 1 MiB.
+    {"copy_cached_8u_C1", 2,
+     [](Images& m) {
+       return peliCopyManaged_8u_C1R(m.c1Src.u8(), m.c1Src.step, m.c1Dst.u8(), m.c1Dst.step, m.roi, 0);
+     },
+     [](Images& m) { m.c1Src.mat.copyTo(m.c1Dst.mat); return 0; },
+     [](Images& m) { std::memcpy(m.c1Dst.u8(), m.c1Src.u8(), m.c1Src.bytes(m.h)); return 0; }, false, nullptr},
     {"set_8u_C1", 1,
      [](Images& m) { return peliSet_8u_C1R(Pel8u{42}, m.c1Dst.u8(), m.c1Dst.step, m.roi); },
      [](Images& m) { m.c1Dst.mat.setTo(cv::Scalar(42)); return 0; },

@@ -37,6 +37,7 @@ void CopyRows(const void* src, ptrdiff_t srcStep, void* dst, ptrdiff_t dstStep, 
       CopyRow(s + offset, d + offset, static_cast<size_t>(bytes), stream);
     });
   }
+  if (stream) FinishStreaming();
 }
 
 template <class T, int C, class Size>

@@ -6,6 +6,7 @@
 #include "core/exports.h"
 #include "core/lanes.h"
 #include "core/large_transfer.h"
+#include "datamove/row_kernels.h"
 #include "datamove/row_mask_kernels.h"
 #include "datamove/row_pieces.h"
 
@@ -64,6 +65,7 @@ PelStatus CopyAlphaImage(const T* pSrc, ptrdiff_t srcStep, T* pDst, ptrdiff_t ds
       AlphaCopyRow(s + first, d + first, static_cast<size_t>(bytes / kPixelBytes), stream);
     });
   });
+  if (stream) FinishStreaming();
   return pelStatusOk;
 }
 
@@ -140,6 +142,7 @@ PelStatus SetAlpha(const T* value, T* pDst, int dstStep, PeliSize roiSize) {
   WalkRows(roiSize, Gapless(dstStep, rowBytes), [&](ptrdiff_t y, size_t pixels) {
     AlphaSetRow(LaneRow(pDst, dstStep, y), pixels, lanes, stream);
   });
+  if (stream) FinishStreaming();
   return pelStatusOk;
 }
 

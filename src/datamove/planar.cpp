@@ -9,6 +9,7 @@
 #include "core/large_transfer.h"
 #include "datamove/channel_scalar.h"
 #include "datamove/row_channel_kernels.h"
+#include "datamove/row_kernels.h"
 #include "datamove/row_overlap.h"
 
 namespace pel::datamove {

@@ -406,7 +406,5 @@ void DupRowAny(const uint8_t* src, uint8_t* dst, size_t pixels, int channels) {
   HWY_DYNAMIC_DISPATCH(DupRowTarget)(src, dst, pixels, channels);
 }
 
-void FinishStreaming() { hwy::FlushStream(); }
-
 }  // namespace pel::datamove
 #endif

@@ -6,7 +6,8 @@
 // overlapping rows to the scalar reference, whose forward order defines the
 // result). `stream` asks for cache-bypassing stores; it changes speed only.
 // Streamed stores are not fenced here: the caller fences once after its last
-// row (FinishStreaming), since a fence per row stalls on every short row.
+// row (FinishStreaming in row_kernels.h), since a fence per row stalls on
+// every short row.
 //
 // Lane types are the unsigned integers of 1, 2 or 4 bytes; channel counts are
 // 3 or 4. Use the typed templates at the end.
@@ -29,7 +30,6 @@ void AddAlphaRowAny(const void* src, void* dst, size_t pixels, int elemBytes);
 void DupRowAny(const uint8_t* src, uint8_t* dst, size_t pixels, int channels);
 
 // Orders the streamed stores of all rows before whatever the caller does next.
-void FinishStreaming();
 
 template <class U, int C>
 inline void ExtractRowVec(const U* src, U* dst, size_t pixels) {

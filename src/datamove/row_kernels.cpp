@@ -66,7 +66,6 @@ void CopyRowTarget(const void* srcv, void* dstv, size_t n, bool stream) {
     for (i = LanesToAlignment(d, dst); i + N <= n; i += N) {
       hn::Stream(hn::LoadU(d, src + i), d, dst + i);
     }
-    hwy::FlushStream();
   } else {
     for (; i + 4 * N <= n; i += 4 * N) {
       const auto v0 = hn::LoadU(d, src + i);
@@ -118,7 +117,7 @@ HWY_INLINE size_t FillPattern(D d, U* HWY_RESTRICT dst, size_t o, size_t total,
 // with memcpy: the C library's string instructions store whole cache lines
 // without reading them first, which plain vector stores cannot do. A block is
 // a whole number of pixels, so each copy of it continues the pattern.
-constexpr size_t kFillBlockBytes = 4096;
+constexpr size_t kFillBlockBytes = 65536;
 
 template <class U, int C>
 bool FillByBlocks(U* dst, size_t total, const U* value) {
@@ -163,7 +162,6 @@ void SetRowT(U* dst, size_t pixels, const U* value, bool stream) {
     // One unaligned vector covers the lanes before the first aligned address.
     hn::StoreU(hn::LoadU(d, pattern), d, dst);
     o = FillPattern<C, true>(d, dst, LanesToAlignment(d, dst), total, pattern);
-    hwy::FlushStream();
   } else {
     o = FillPattern<C, false>(d, dst, 0, total, pattern);
   }
@@ -190,6 +188,8 @@ HWY_AFTER_NAMESPACE();
 namespace pel::datamove {
 
 HWY_EXPORT(CopyRowTarget);
+
+void FinishStreaming() { hwy::FlushStream(); }
 HWY_EXPORT(SetRowTarget);
 
 void CopyRow(const void* src, void* dst, size_t bytes, bool stream) {

@@ -8,6 +8,11 @@
 
 namespace pel::datamove {
 
+// Streamed stores are not fenced by the row kernels: a walker that streamed
+// calls FinishStreaming once after its last row, before it returns, so that
+// the caller sees the stores in order. A fence per row stalls on short rows.
+void FinishStreaming();
+
 // Copies `bytes` bytes. The ranges must not overlap unless they are equal.
 void CopyRow(const void* src, void* dst, size_t bytes, bool stream);
 

@@ -288,7 +288,6 @@ void AlphaRowT(U* dst, size_t pixels, bool stream, Source source, Rest rest) {
       U* out = dst + x * 4;
       hn::Stream(hn::IfThenElse(alpha, hn::LoadU(d, out), source(d, x * 4)), d, out);
     }
-    hwy::FlushStream();
   } else {
     const auto color = hn::Not(alpha);
     for (; x + kPerVector <= pixels; x += kPerVector) {

@@ -10,7 +10,8 @@ namespace pel::datamove {
 inline constexpr uint64_t kMaxPieceBytes = 0x40000000;
 
 // Calls f(offset, bytes) for consecutive pieces covering [0, length). The
-// piece size is a multiple of every pixel size, so pieces hold whole pixels.
+// piece size is a power of two, so pieces hold whole pixels of
+// every power-of-two size (the byte copies do not care).
 template <class F>
 void ForEachPiece(uint64_t length, F&& f) {
   for (uint64_t done = 0; done < length; done += kMaxPieceBytes) {

@@ -35,6 +35,7 @@ PelStatus SetImage(const T* value, T* pDst, int dstStep, PeliSize roi) {
   for (int y = 0; y < rows; ++y) {
     SetRow<U, C>(reinterpret_cast<U*>(Row(pDst, dstStep, y)), pixels, lanes, stream);
   }
+  if (stream) FinishStreaming();
   return pelStatusOk;
 }
 
