@@ -17,15 +17,12 @@
 
 #include "peli.h"
 #include "support/image.h"
+#include "support/signatures.h"
 
 namespace peltest {
 
 template <class T>
-using ChannelFn = PelStatus (*)(const T*, int, T*, int, PeliSize);
-template <class T>
-using SplitFn = PelStatus (*)(const T*, int, T* const*, int, PeliSize);
-template <class T>
-using MergeFn = PelStatus (*)(const T* const*, int, T*, int, PeliSize);
+using ChannelFn = CopyFn<T>;
 
 template <class T>
 struct ChannelMembers;
@@ -51,7 +48,7 @@ PEL_CHANNEL_MEMBERS(32s)
 PEL_CHANNEL_MEMBERS(32f)
 #undef PEL_CHANNEL_MEMBERS
 
-using ChannelTypes = ::testing::Types<Pel8u, Pel16s, Pel16u, Pel32s, Pel32f>;
+using ChannelTypes = DataMoveTypes;
 
 // One image of a call.
 struct Side {

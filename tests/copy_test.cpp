@@ -8,6 +8,7 @@
 #include "peli.h"
 #include "support/cpu_levels.h"
 #include "support/image.h"
+#include "support/signatures.h"
 #include "support/sweep.h"
 
 namespace {
@@ -15,10 +16,8 @@ namespace {
 using peltest::Image;
 using peltest::Layout;
 
-template <class T>
-using CopyFn = PelStatus (*)(const T*, int, T*, int, PeliSize);
-template <class T>
-using CopyFnL = PelStatus (*)(const T*, PelIntL, T*, PelIntL, PeliSizeL);
+using peltest::CopyFn;
+using peltest::CopyFnL;
 
 template <class T>
 struct PlainCopies;
@@ -40,8 +39,7 @@ PEL_PLAIN_COPIES(32f)
 
 template <class T>
 class CopyPlain : public ::testing::Test {};
-using CopyTypes = ::testing::Types<Pel8u, Pel16s, Pel16u, Pel32s, Pel32f>;
-TYPED_TEST_SUITE(CopyPlain, CopyTypes);
+TYPED_TEST_SUITE(CopyPlain, peltest::DataMoveTypes);
 
 // Copies src to a fresh destination with `call` and checks every element and
 // every byte outside the ROI.

@@ -12,6 +12,7 @@
 #include "pelcore.h"
 #include "support/cpu_levels.h"
 #include "support/image.h"
+#include "support/signatures.h"
 #include "support/sweep.h"
 
 namespace {
@@ -19,20 +20,14 @@ namespace {
 using peltest::Image;
 using peltest::Layout;
 
-template <class T>
-using CopyFn = PelStatus (*)(const T*, int, T*, int, PeliSize);
-template <class T>
-using CopyFnL = PelStatus (*)(const T*, PelIntL, T*, PelIntL, PeliSizeL);
-template <class T>
-using CopyMaskFn = PelStatus (*)(const T*, int, T*, int, const Pel8u*, int, PeliSize);
-template <class T>
-using SetManyFn = PelStatus (*)(const T*, T*, int, PeliSize);
-template <class T>
-using SetOneFn = PelStatus (*)(T, T*, int, PeliSize);
-template <class T>
-using SetOneMaskFn = PelStatus (*)(T, T*, int, const Pel8u*, int, PeliSize);
-template <class T>
-using SetManyMaskFn = PelStatus (*)(const T*, T*, int, const Pel8u*, int, PeliSize);
+using peltest::CopyFn;
+using peltest::CopyFnL;
+using peltest::CopyMaskFn;
+using peltest::RandomValues;
+using peltest::SetManyFn;
+using peltest::SetManyMaskFn;
+using peltest::SetOneFn;
+using peltest::SetOneMaskFn;
 
 // `channels` per pixel, of which the first `written` are written.
 template <class Fn>
@@ -81,7 +76,7 @@ PEL_MASKED_MEMBERS(32f)
 
 template <class T>
 class Masked : public ::testing::Test {};
-using MaskedTypes = ::testing::Types<Pel8u, Pel16s, Pel16u, Pel32s, Pel32f>;
+using MaskedTypes = peltest::DataMoveTypes;
 TYPED_TEST_SUITE(Masked, MaskedTypes);
 
 // A mask for the image layout `l`, with a layout of its own. It is built in
@@ -110,13 +105,6 @@ Image<Pel8u> MakeMask(const Layout& l, uint32_t seed) {
     }
   }
   return mask;
-}
-
-template <class T>
-std::array<T, 4> RandomValues(uint32_t seed) {
-  Image<T> v(Layout{4, 1, 1, 0, 0, false});
-  v.FillRandom(seed);
-  return {v.at(0, 0), v.at(1, 0), v.at(2, 0), v.at(3, 0)};
 }
 
 // The destination layout for a source layout: other padding and direction.

@@ -8,6 +8,7 @@
 #include "peli.h"
 #include "support/cpu_levels.h"
 #include "support/image.h"
+#include "support/signatures.h"
 #include "support/sweep.h"
 
 namespace {
@@ -15,10 +16,9 @@ namespace {
 using peltest::Image;
 using peltest::Layout;
 
-template <class T>
-using SetOneFn = PelStatus (*)(T, T*, int, PeliSize);
-template <class T>
-using SetManyFn = PelStatus (*)(const T*, T*, int, PeliSize);
+using peltest::RandomValues;
+using peltest::SetManyFn;
+using peltest::SetOneFn;
 
 template <class T>
 struct PlainSets;
@@ -37,15 +37,7 @@ PEL_PLAIN_SETS(32f)
 
 template <class T>
 class SetPlain : public ::testing::Test {};
-using SetTypes = ::testing::Types<Pel8u, Pel16s, Pel16u, Pel32s, Pel32f>;
-TYPED_TEST_SUITE(SetPlain, SetTypes);
-
-template <class T>
-std::array<T, 4> RandomValues(uint32_t seed) {
-  Image<T> v(Layout{4, 1, 1, 0, 0, false});
-  v.FillRandom(seed);
-  return {v.at(0, 0), v.at(1, 0), v.at(2, 0), v.at(3, 0)};
-}
+TYPED_TEST_SUITE(SetPlain, peltest::DataMoveTypes);
 
 template <class T, class Call>
 void CheckSet(const Layout& l, const std::array<T, 4>& value, uint32_t seed, Call call) {
