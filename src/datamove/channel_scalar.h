@@ -48,27 +48,27 @@ void MergeRow(const U* const* planes, U* dst, size_t begin, size_t end) {
   }
 }
 
-// Four-lane pixels to three-lane pixels; the source's fourth lane is not read.
-template <class U>
-void DropAlphaRow(const U* src, U* dst, size_t begin, size_t end) {
+// The first three lanes of each kSrc-lane pixel into the first three lanes
+// of each kDst-lane pixel: 4 -> 3 drops alpha without reading it, 3 -> 4 adds
+// an alpha position without touching it.
+template <class U, int kSrc, int kDst>
+void ThreeLaneRow(const U* src, U* dst, size_t begin, size_t end) {
   for (size_t x = begin; x < end; ++x) {
-    const U c0 = src[x * 4], c1 = src[x * 4 + 1], c2 = src[x * 4 + 2];
-    dst[x * 3] = c0;
-    dst[x * 3 + 1] = c1;
-    dst[x * 3 + 2] = c2;
+    const U c0 = src[x * kSrc], c1 = src[x * kSrc + 1], c2 = src[x * kSrc + 2];
+    dst[x * kDst] = c0;
+    dst[x * kDst + 1] = c1;
+    dst[x * kDst + 2] = c2;
   }
 }
 
-// Three-lane pixels into the first three lanes of four-lane pixels; the
-// destination's fourth lane is not touched.
+template <class U>
+void DropAlphaRow(const U* src, U* dst, size_t begin, size_t end) {
+  ThreeLaneRow<U, 4, 3>(src, dst, begin, end);
+}
+
 template <class U>
 void AddAlphaRow(const U* src, U* dst, size_t begin, size_t end) {
-  for (size_t x = begin; x < end; ++x) {
-    const U c0 = src[x * 3], c1 = src[x * 3 + 1], c2 = src[x * 3 + 2];
-    dst[x * 4] = c0;
-    dst[x * 4 + 1] = c1;
-    dst[x * 4 + 2] = c2;
-  }
+  ThreeLaneRow<U, 3, 4>(src, dst, begin, end);
 }
 
 // dst[x * C + c] = src[x] for every c.
