@@ -10,7 +10,8 @@ install(TARGETS peli pelcore EXPORT pelTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES include/peli.h include/pelcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+file(GLOB pel_public_headers ${PROJECT_SOURCE_DIR}/include/*.h)
+install(FILES ${pel_public_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT pelTargets NAMESPACE pel:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/pel)
 
 configure_package_config_file(cmake/pelConfig.cmake.in

@@ -1,0 +1,19 @@
+/* peli_transform.h: image FFT.
+ * Part of the C interface of peli; include <peli.h>, which includes this. */
+#ifndef PELI_TRANSFORM_H
+#define PELI_TRANSFORM_H
+#ifndef PELI_H
+#error "include <peli.h>, not this header"
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The members arrive with the family. */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* PELI_TRANSFORM_H */
