@@ -1,178 +1,141 @@
 // Test images with guard bytes: the ROI sits inside a larger buffer, rows
 // are padded, the first pixel may be offset, rows may run bottom-up (negative
-// step). Everything outside the ROI's rows is checked after a call.
+// step). A call may write only the ROI; every other byte is checked.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstring>
 #include <random>
-#include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "peli.h"
 
 namespace peltest {
 
+enum class Fence { None, AtEnd, AtStart };
+
 struct Layout {
   int width = 1;
   int height = 1;
   int channels = 1;
-  int padBytes = 0;     // extra bytes after each row (keep a multiple of the element size)
-  int offsetBytes = 0;  // bytes before the first pixel of the first row
+  int padBytes = 0;       // extra bytes after each row
+  int offsetBytes = 0;    // bytes before the first pixel of the first row
   bool bottomUp = false;  // first ROI row is the last in memory: negative step
+  // Fenced: no guard bytes, the image's last (or first) byte touches an
+  // inaccessible page, so that a read past the image crashes.
+  Fence fence = Fence::None;
+  // Every image of the call without padding or offset, top-down: rows that
+  // follow each other without a gap, which walkers may merge into one.
+  bool gapless = false;
+  // With a fence at the end: the buffer stops this many bytes before the end
+  // of the last row (elements the export must not even read).
+  int trimBytes = 0;
 
-  std::string Describe() const {
-    std::ostringstream s;
-    s << width << "x" << height << " C" << channels << " pad" << padBytes << " off" << offsetBytes
-      << (bottomUp ? " bottom-up" : "");
-    return s.str();
-  }
+  std::string Describe() const;
 };
+
+// Heap memory, or memory flush against an inaccessible page (at the end or
+// the start of the allocation). Copies are ordinary heap memory.
+struct GuardedAllocator {
+  using value_type = uint8_t;
+  template <class U>
+  struct rebind {
+    static_assert(std::is_same_v<U, uint8_t>);
+    using other = GuardedAllocator;
+  };
+  Fence fence = Fence::None;
+  GuardedAllocator() = default;
+  explicit GuardedAllocator(Fence f) : fence(f) {}
+  uint8_t* allocate(size_t n);
+  void deallocate(uint8_t* p, size_t n);
+  GuardedAllocator select_on_container_copy_construction() const { return {}; }
+  bool operator==(const GuardedAllocator& o) const { return fence == o.fence; }
+};
+using Bytes = std::vector<uint8_t, GuardedAllocator>;
 
 // Bytes around the image that no call may touch.
 inline constexpr int kGuardBytes = 64;
 inline constexpr uint8_t kGuardByte = 0xA5;
 
-template <class T>
-class Image {
+// An image of elements of `elemBytes` bytes, whatever they mean.
+class AnyImage {
  public:
-  explicit Image(const Layout& l) : layout_(l) {
-    rowBytes_ = static_cast<size_t>(l.width) * l.channels * sizeof(T);
-    pitch_ = rowBytes_ + l.padBytes;
-    buffer_.assign(kGuardBytes + l.offsetBytes + pitch_ * l.height + kGuardBytes, kGuardByte);
-  }
+  AnyImage() = default;
+  AnyImage(const Layout& l, int elemBytes);
 
-  T* data() {
-    uint8_t* first = buffer_.data() + kGuardBytes + layout_.offsetBytes;
-    if (layout_.bottomUp) first += pitch_ * (layout_.height - 1);
-    return reinterpret_cast<T*>(first);
+  uint8_t* bytesAt(int x, int y, int c = 0);
+  const uint8_t* bytesAt(int x, int y, int c = 0) const {
+    return const_cast<AnyImage*>(this)->bytesAt(x, y, c);
   }
-  const T* data() const { return const_cast<Image*>(this)->data(); }
+  uint8_t* first() { return bytesAt(0, 0); }
+  // False for an element that a trimmed, fenced image leaves out.
+  bool Has(int x, int y, int c = 0) const {
+    return static_cast<size_t>(bytesAt(x, y, c) - buffer_.data()) + elemBytes_ <= buffer_.size();
+  }
   int step() const { return layout_.bottomUp ? -static_cast<int>(pitch_) : static_cast<int>(pitch_); }
   PeliSize size() const { return {layout_.width, layout_.height}; }
   const Layout& layout() const { return layout_; }
-  int channels() const { return layout_.channels; }
+  int elemBytes() const { return elemBytes_; }
 
-  T& at(int x, int y, int c = 0) {
-    auto* row = reinterpret_cast<uint8_t*>(data()) + static_cast<ptrdiff_t>(step()) * y;
-    return reinterpret_cast<T*>(row)[x * layout_.channels + c];
-  }
-  T at(int x, int y, int c = 0) const { return const_cast<Image*>(this)->at(x, y, c); }
-
-  // Random bytes in every ROI element, the same for a given seed. Float
-  // images get finite values so that comparisons print readably.
-  void FillRandom(uint32_t seed) {
-    std::mt19937 rng(seed);
-    for (int y = 0; y < layout_.height; ++y)
-      for (int x = 0; x < layout_.width; ++x)
-        for (int c = 0; c < layout_.channels; ++c) {
-          T v;
-          if constexpr (std::is_floating_point_v<T>) {
-            v = static_cast<T>(std::uniform_real_distribution<double>(-1e6, 1e6)(rng));
-          } else {
-            const uint64_t bits = (uint64_t{rng()} << 32) | rng();
-            std::memcpy(&v, &bits, sizeof v);
-          }
-          at(x, y, c) = v;
-        }
-  }
+  // Every element gets random bytes (the same for a given seed).
+  void FillRandomBytes(uint32_t seed);
 
   // The whole buffer, guards and padding included.
-  const std::vector<uint8_t>& bytes() const { return buffer_; }
+  const Bytes& bytes() const { return buffer_; }
+  Bytes& bytes() { return buffer_; }
 
-  // True for a buffer byte that belongs to element (x, y, c) of the ROI.
-  bool InRoi(size_t index) const {
-    const ptrdiff_t first = kGuardBytes + layout_.offsetBytes;
-    const ptrdiff_t rel = static_cast<ptrdiff_t>(index) - first;
-    if (rel < 0) return false;
-    const size_t row = static_cast<size_t>(rel) / pitch_;
-    return row < static_cast<size_t>(layout_.height) && static_cast<size_t>(rel) % pitch_ < rowBytes_;
-  }
+  // Where buffer byte `index` lies: "x=.. y=.. c=.." inside the ROI, or which
+  // guard, padding or offset byte it is. Sets *element when inside.
+  std::string Where(size_t index, bool* inside = nullptr, size_t* elementStart = nullptr) const;
 
  private:
   Layout layout_;
+  int elemBytes_ = 1;
   size_t rowBytes_ = 0;
   size_t pitch_ = 0;
-  std::vector<uint8_t> buffer_;
+  size_t guard_ = kGuardBytes;
+  Bytes buffer_;
 };
 
-// Every byte outside the ROI is as it was in `before`.
 template <class T>
-::testing::AssertionResult OutsideRoiUnchanged(const Image<T>& img, const std::vector<uint8_t>& before) {
-  const auto& now = img.bytes();
-  for (size_t i = 0; i < now.size(); ++i) {
-    if (!img.InRoi(i) && now[i] != before[i]) {
-      return ::testing::AssertionFailure()
-             << "byte " << i << " outside the ROI changed from " << int(before[i]) << " to "
-             << int(now[i]) << " (" << img.layout().Describe() << ")";
-    }
-  }
-  return ::testing::AssertionSuccess();
-}
+class Image : public AnyImage {
+ public:
+  Image() = default;
+  explicit Image(const Layout& l) : AnyImage(l, sizeof(T)) {}
+  T* data() { return reinterpret_cast<T*>(first()); }
+  const T* data() const { return const_cast<Image*>(this)->data(); }
+  int channels() const { return layout().channels; }
+  T& at(int x, int y, int c = 0) { return *reinterpret_cast<T*>(bytesAt(x, y, c)); }
+  T at(int x, int y, int c = 0) const { return const_cast<Image*>(this)->at(x, y, c); }
+  // Random elements; floats get finite values of either sign.
+  void FillRandom(uint32_t seed);
+};
 
-// Nothing at all changed (an error must write nothing).
+// Float values a model can print and compare; integers are printed as numbers.
+std::string ValueText(const uint8_t* bytes, int elemBytes, char kind);
+
+// Shapes every kernel meets: widths around the vector sizes, one row, one
+// column, 1x1, padded rows, offsets, bottom-up rows.
+std::vector<Layout> AwkwardLayouts(int channels = 1);
+// Shapes whose images touch an inaccessible page at their end or start.
+std::vector<Layout> FencedLayouts(int channels = 1);
+
 template <class T>
-::testing::AssertionResult Untouched(const Image<T>& img, const std::vector<uint8_t>& before) {
-  if (img.bytes() == before) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure() << "image written by a call that failed";
-}
-
-template <class T>
-std::string ValueText(T v) {
-  std::ostringstream s;
-  if constexpr (sizeof(T) == 1) s << int(v);
-  else s << +v;
-  return s.str();
-}
-
-// Compares the ROI element by element against an expected image (or a
-// function (x, y, c) -> value), bit for bit, and names the first difference.
-template <class T, class Expected>
-::testing::AssertionResult RoiEquals(const Image<T>& got, Expected&& expected) {
-  const Layout& l = got.layout();
+void Image<T>::FillRandom(uint32_t seed) {
+  std::mt19937 rng(seed);
+  const Layout& l = layout();
   for (int y = 0; y < l.height; ++y)
     for (int x = 0; x < l.width; ++x)
       for (int c = 0; c < l.channels; ++c) {
-        const T want = expected(x, y, c);
-        const T have = got.at(x, y, c);
-        if (std::memcmp(&want, &have, sizeof(T)) != 0) {
-          return ::testing::AssertionFailure()
-                 << "first difference at x=" << x << " y=" << y << " c=" << c << ": got "
-                 << ValueText(have) << ", want " << ValueText(want) << " (" << l.Describe() << ")";
+        if constexpr (std::is_floating_point_v<T>) {
+          at(x, y, c) = static_cast<T>(std::uniform_real_distribution<double>(-1e6, 1e6)(rng));
+        } else {
+          const uint64_t bits = (uint64_t{rng()} << 32) | rng();
+          std::memcpy(&at(x, y, c), &bits, sizeof(T));
         }
       }
-  return ::testing::AssertionSuccess();
-}
-
-// Shapes every kernel meets: odd widths around the vector sizes, one row,
-// one column, 1x1, padded and odd steps, offsets, bottom-up rows.
-inline std::vector<Layout> AwkwardLayouts(int channels) {
-  std::vector<Layout> out;
-  const int widths[] = {1, 2, 7, 15, 16, 17, 31, 33, 63, 64, 65, 129, 1003};
-  int k = 0;
-  for (int w : widths) {
-    for (int h : {1, 3}) {
-      Layout l;
-      l.width = w;
-      l.height = h;
-      l.channels = channels;
-      l.padBytes = (k % 3) * 8;  // 0, 8 or 16 bytes of padding
-      l.offsetBytes = (k % 4) * 4 + (k % 2 ? 4 : 0);
-      l.bottomUp = (k % 5) == 4;
-      out.push_back(l);
-      ++k;
-    }
-  }
-  Layout column;
-  column.width = 1;
-  column.height = 37;
-  column.channels = channels;
-  column.padBytes = 4;
-  out.push_back(column);
-  return out;
 }
 
 }  // namespace peltest

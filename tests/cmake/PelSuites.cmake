@@ -1,0 +1,43 @@
+# Registers a GoogleTest program with CTest as one test per test suite (not
+# one per test): thousands of table rows would otherwise start thousands of
+# processes, which is slow under qemu and the sanitizers. The suites are
+# listed when CTest runs, so a new family's table needs no CMake change.
+#
+#   pel_add_suites(<target> [TIMEOUT <seconds>] [FILTER <gtest filter>])
+function(pel_add_suites target)
+  cmake_parse_arguments(ARG "" "TIMEOUT;FILTER" "" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 1500)
+  endif()
+  if(NOT ARG_FILTER)
+    set(ARG_FILTER "*")
+  endif()
+  set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}_suites.cmake")
+  set(emulator "")
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    set(emulator "${CMAKE_CROSSCOMPILING_EMULATOR}")
+  endif()
+  file(GENERATE OUTPUT "${script}" CONTENT "
+set(program \"$<TARGET_FILE:${target}>\")
+set(emulator \"${emulator}\")
+if(NOT EXISTS \"\${program}\")
+  add_test(${target}.NOT_BUILT \"\${program}\")
+  return()
+endif()
+execute_process(COMMAND \${emulator} \"\${program}\" --gtest_list_tests \"--gtest_filter=${ARG_FILTER}\"
+                OUTPUT_VARIABLE listing RESULT_VARIABLE failed)
+if(failed)
+  add_test(${target}.LISTING_FAILED \${emulator} \"\${program}\" --gtest_list_tests)
+  return()
+endif()
+string(REPLACE \"\\n\" \";\" lines \"\${listing}\")
+foreach(line IN LISTS lines)
+  if(line MATCHES \"^([A-Za-z0-9_/]+)\\\\.\")
+    set(suite \"\${CMAKE_MATCH_1}\")
+    add_test(\"${target}.\${suite}\" \${emulator} \"\${program}\" \"--gtest_filter=\${suite}.*\")
+    set_tests_properties(\"${target}.\${suite}\" PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  endif()
+endforeach()
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+endfunction()
