@@ -249,6 +249,7 @@ PelStatus StatusOf(Check c, const Row& row) {
     case Check::Pointers: return pelStatusNullPointer;
     case Check::Sizes: return pelStatusBadSize;
     case Check::Steps: return pelStatusBadStep;
+    case Check::LatePointers: return pelStatusNullPointer;
     case Check::Param: return row.expect;
   }
   return pelStatusOk;
@@ -257,7 +258,7 @@ PelStatus StatusOf(Check c, const Row& row) {
 }  // namespace
 
 void SweepRow(const Row& row) {
-  const Layout shape{9, 4, FirstImageChannels(row), 8, 4, false};
+  const Layout shape = row.sweepShape.width > 0 ? row.sweepShape : Layout{9, 4, FirstImageChannels(row), 8, 4, false};
   const std::vector<Layout> layouts = LayoutsFor(row, shape);
   std::vector<Arg> args = row.args;
   std::vector<AnyImage> images = MakeImages(row, layouts, row.seed);
@@ -286,9 +287,12 @@ void SweepRow(const Row& row) {
   }
 
   const bool paramBad = row.expect != pelStatusOk;
-  auto expected = [&](bool ptr, bool size, bool step) -> PelStatus {
+  // Which check a NULL slot trips: plane arrays and most arguments are
+  // pointers, latePointer arguments late pointers.
+  auto late = [&](int slot) { return slot >= 0 && args[slot].latePointer; };
+  auto expected = [&](bool ptr, bool size, bool step, bool latePtr = false) -> PelStatus {
     for (Check c : row.order) {
-      if ((c == Check::Pointers && ptr) || (c == Check::Sizes && size) ||
+      if ((c == Check::Pointers && ptr) || (c == Check::LatePointers && latePtr) || (c == Check::Sizes && size) ||
           (c == Check::Steps && step) || (c == Check::Param && paramBad)) {
         return StatusOf(c, row);
       }
@@ -332,13 +336,14 @@ void SweepRow(const Row& row) {
 
   for (int slot : slots) {
     const std::string what = "pointer slot " + std::to_string(slot) + " NULL";
-    EXPECT_EQ(run(slot, good, {}, nullptr), expected(true, false, false)) << row.name << ", " << what;
+    const bool early = !late(slot);
+    EXPECT_EQ(run(slot, good, {}, nullptr), expected(early, false, false, !early)) << row.name << ", " << what;
     untouched(what);
-    EXPECT_EQ(run(slot, PeliSize{0, 0}, {}, nullptr), expected(true, true, false))
+    EXPECT_EQ(run(slot, PeliSize{0, 0}, {}, nullptr), expected(early, true, false, !early))
         << row.name << ", " << what << " with a 0x0 size";
     untouched(what + " with a 0x0 size");
     for (const auto& steps : badStepSets) {
-      EXPECT_EQ(run(slot, good, steps, nullptr), expected(true, false, true))
+      EXPECT_EQ(run(slot, good, steps, nullptr), expected(early, false, true, !early))
           << row.name << ", " << what << " with a bad step";
       untouched(what + " with a bad step");
     }

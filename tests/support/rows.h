@@ -75,6 +75,9 @@ struct Arg {
   // even read (a channel form ends at its channel of the last pixel); the
   // fenced shapes cut them off.
   int unusedTail = 0;
+  // Its NULL pointer is caught at Check::LatePointers (after other checks)
+  // rather than with the other pointers.
+  bool latePointer = false;
 };
 
 template <class T>
@@ -214,7 +217,10 @@ class Model {
 
 // ---- Rows ---------------------------------------------------------------------
 
-enum class Check { Pointers, Sizes, Steps, Param };
+// Pointers: NULL -> -8; Sizes: width or height below 1 -> -6; Steps: a step
+// below its StepRule -> -16; LatePointers: a NULL latePointer argument -> -8;
+// Param: the row's own `expect` status.
+enum class Check { Pointers, Sizes, Steps, LatePointers, Param };
 
 struct Row {
   std::string name;     // the export
@@ -231,6 +237,8 @@ struct Row {
   // Shapes to run on (the ROI of the call); empty: AwkwardLayouts(channels of
   // the first image argument).
   std::vector<Layout> shapes;
+  // The shape of the bad-argument sweep; width 0: 9x4.
+  Layout sweepShape{0, 0};
   // Seeds the random contents; rows of one export may differ in it.
   uint32_t seed = 1;
 };
