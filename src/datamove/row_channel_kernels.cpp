@@ -122,6 +122,30 @@ HWY_INLINE void ForEachBlock(size_t n, size_t N, Body&& body) {
   if (i < n) body(n - N);
 }
 
+// Big planar copies run at memory speed with one load stream beside three or
+// four store streams; asking for the loads this far ahead keeps more of them
+// in flight than the hardware prefetcher does on its own. A prefetch never
+// faults, so asking past the end of a row is harmless.
+constexpr size_t kPrefetchBytes = 2048;
+
+// ForEachBlock that first asks, for every stream in `streams` (each advancing
+// `lanesPerPixel` lanes a pixel), for the lanes kPrefetchBytes ahead.
+template <class U, size_t K, class Body>
+HWY_INLINE void ForEachBlockPrefetching(size_t n, size_t N, const U* const (&streams)[K],
+                                        size_t lanesPerPixel, Body&& body) {
+  const size_t ahead = kPrefetchBytes / sizeof(U);
+  const size_t vectorsPerBlock = lanesPerPixel;  // a block of N pixels spans this many vectors
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    for (size_t k = 0; k < K; ++k) {
+      const U* at = streams[k] + i * lanesPerPixel + ahead;
+      for (size_t v = 0; v < vectorsPerBlock; ++v) hwy::Prefetch(at + v * N);
+    }
+    body(i);
+  }
+  if (i < n) body(n - N);
+}
+
 constexpr size_t kNeverAligned = ~size_t{0};
 
 // How many pixels of `lanesPerPixel` lanes lie between p and the first
@@ -148,11 +172,13 @@ void ExtractRowT(const U* src, U* dst, size_t n) {
     scalar::ExtractRow<U, C>(src, dst, 0, n);
     return;
   }
-  ForEachBlock(n - 1, N, [&](size_t i) PEL_BLOCK_INLINE {
+  const auto body = [&](size_t i) PEL_BLOCK_INLINE {
     hn::Vec<decltype(d)> v[C];
     LoadPixels<C>(d, src + i * C, v);
     hn::StoreU(v[0], d, dst + i);
-  });
+  };
+  const U* const streams[1] = {src};
+  ForEachBlockPrefetching(n - 1, N, streams, C, body);
   scalar::ExtractRow<U, C>(src, dst, n - 1, n);
 }
 
@@ -211,7 +237,8 @@ void SplitRowT(const U* src, U* const* planes, size_t n, bool stream) {
       return;
     }
   }
-  ForEachBlock(n, N, block);
+  const U* const streams[1] = {src};
+  ForEachBlockPrefetching(n, N, streams, C, block);
 }
 
 template <class U, int C>
@@ -248,7 +275,7 @@ void MergeRowT(const U* const* planes, U* dst, size_t n, bool stream) {
       return;
     }
   }
-  ForEachBlock(n, N, block);
+  ForEachBlockPrefetching(n, N, p, 1, block);
 }
 
 template <class U>

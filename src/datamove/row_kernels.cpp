@@ -96,7 +96,10 @@ HWY_INLINE void StoreRun(D d, const V* v, U* HWY_RESTRICT dst) {
 }
 
 // Fills lanes [o, total) of dst with a pattern of period C lanes, where o is
-// the caller's start. pattern holds at least C + Lanes(d) lanes of it, so the
+// the caller's start. The fill is ordinary vector stores, whatever its size:
+// its speed is ours to control, not left to how the C library's memset
+// guesses at the caches (which switches to cache-bypassing stores at sizes
+// that still fit the cache on some hosts). pattern holds at least C + Lanes(d) lanes of it, so the
 // vector that starts at lane i is LoadU(pattern + i % C) for any i.
 template <size_t C, bool kStream, class D, class U = hn::TFromD<D>>
 HWY_INLINE size_t FillPattern(D d, U* HWY_RESTRICT dst, size_t o, size_t total,
@@ -113,38 +116,6 @@ HWY_INLINE size_t FillPattern(D d, U* HWY_RESTRICT dst, size_t o, size_t total,
   return o;
 }
 
-// Large cached fills write a first block with vectors and then copy it on
-// with memcpy: the C library's string instructions store whole cache lines
-// without reading them first, which plain vector stores cannot do. A block is
-// a whole number of pixels, so each copy of it continues the pattern.
-constexpr size_t kFillBlockBytes = 65536;
-
-template <class U, int C>
-bool FillByBlocks(U* dst, size_t total, const U* value) {
-  const size_t bytes = total * sizeof(U);
-  if (bytes < 4 * kFillBlockBytes) return false;
-  const uint8_t* b = reinterpret_cast<const uint8_t*>(value);
-  bool uniform = true;
-  for (size_t i = 1; i < C * sizeof(U); ++i) uniform = uniform && b[i] == b[0];
-  if (uniform) {
-    std::memset(dst, b[0], bytes);
-    return true;
-  }
-  constexpr size_t kPixelBytes = C * sizeof(U);
-  constexpr size_t kBlock = kFillBlockBytes / kPixelBytes * kPixelBytes;
-  auto* out = reinterpret_cast<uint8_t*>(dst);
-  const hn::ScalableTag<U> d;
-  HWY_ALIGN U pattern[HWY_MAX_BYTES / sizeof(U) + 4];
-  for (size_t i = 0; i < hn::Lanes(d) + C; ++i) pattern[i] = value[i % C];
-  const size_t firstLanes = kBlock / sizeof(U);
-  const size_t o = FillPattern<C, false>(d, dst, 0, firstLanes, pattern);
-  for (size_t i = o; i < firstLanes; ++i) dst[i] = value[i % C];
-  size_t done = kBlock;
-  for (; done + kBlock <= bytes; done += kBlock) std::memcpy(out + done, out, kBlock);
-  std::memcpy(out + done, out, bytes - done);
-  return true;
-}
-
 template <class U, int C>
 void SetRowT(U* dst, size_t pixels, const U* value, bool stream) {
   const hn::ScalableTag<U> d;
@@ -154,16 +125,21 @@ void SetRowT(U* dst, size_t pixels, const U* value, bool stream) {
     scalar::SetRow<U, C>(dst, pixels, value);
     return;
   }
-  if (!stream && FillByBlocks<U, C>(dst, total, value)) return;
   HWY_ALIGN U pattern[HWY_MAX_BYTES / sizeof(U) + 4];
   for (size_t i = 0; i < N + C; ++i) pattern[i] = value[i % C];
-  size_t o;
-  if (stream && ElementAligned(dst)) {
-    // One unaligned vector covers the lanes before the first aligned address.
+  // One unaligned vector covers the lanes before the first aligned address;
+  // from there every store is aligned (a store that splits two cache lines
+  // costs two), and streamed stores need the alignment anyway.
+  size_t o = 0;
+  const bool aligned = ElementAligned(dst);
+  if (aligned) {
     hn::StoreU(hn::LoadU(d, pattern), d, dst);
-    o = FillPattern<C, true>(d, dst, LanesToAlignment(d, dst), total, pattern);
+    o = LanesToAlignment(d, dst);
+  }
+  if (stream && aligned) {
+    o = FillPattern<C, true>(d, dst, o, total, pattern);
   } else {
-    o = FillPattern<C, false>(d, dst, 0, total, pattern);
+    o = FillPattern<C, false>(d, dst, o, total, pattern);
   }
   if (o < total) {
     const size_t last = total - N;
