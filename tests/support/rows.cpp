@@ -384,6 +384,8 @@ Row FindRow(const std::string& name, const std::string& variant) {
   return Row{name, variant, {}, [](Call&) { return pelStatusOk; }, [](Model&) { return pelStatusOk; }};
 }
 
+void PrintTo(const Row& row, std::ostream* os) { *os << row.name << (row.variant.empty() ? "" : " " + row.variant); }
+
 std::string RowTestName(const ::testing::TestParamInfo<Row>& info) {
   std::string name = info.param.name;
   if (!info.param.variant.empty()) name += "_" + info.param.variant;

@@ -265,6 +265,8 @@ bool RegisterFamily(const char* name, std::vector<Row> (*rows)());
 Row FindRow(const std::string& name, const std::string& variant = "");
 
 class RowTest : public ::testing::TestWithParam<Row> {};
+// gtest names a failing row by its export (and variant), not its bytes.
+void PrintTo(const Row& row, std::ostream* os);
 std::string RowTestName(const ::testing::TestParamInfo<Row>& info);
 
 // ---- Helpers for models --------------------------------------------------------
