@@ -1,0 +1,171 @@
+// Vector row conversions: one source, compiled for each instruction set by
+// Highway and chosen at run time. The baseline target runs the scalar
+// reference, so PEL_CPU=scalar gives exactly that.
+//
+// Each pair computes in lanes of one working type: float when either side is
+// float, otherwise the wider of the two. Every vector step is exact or
+// rounds as the reference does (Round and Trunc carry their own rounding
+// direction; the clamps are min(x, max) with the maximum second, which takes
+// NaN to the maximum), so all targets give the reference's bytes. A row ends
+// in the scalar reference; AC4 rows keep the destination's alpha by blending
+// it back in before each store.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "convert/row_convert_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <limits>
+#include <type_traits>
+
+#include "convert/row_convert_kernels.h"
+#include "hwy/cache_control.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace pel::convert::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
+
+template <class S, class D>
+void ConvertPair(const ConvertJob& job, const void* src, void* dst, size_t n) {
+  scalar::ConvertElements(job, static_cast<const S*>(src), static_cast<D*>(dst), 0, n);
+}
+
+#else
+
+template <class S, class D>
+using WorkOf = std::conditional_t<std::is_floating_point_v<S> || std::is_floating_point_v<D>, float,
+                                  std::conditional_t<(sizeof(D) > sizeof(S)), D, S>>;
+
+template <class DW, class S>
+HWY_INLINE hn::Vec<DW> LoadAs(DW dw, const S* HWY_RESTRICT p) {
+  using W = hn::TFromD<DW>;
+  const hn::Rebind<S, DW> ds;
+  if constexpr (std::is_same_v<S, W>) {
+    return hn::LoadU(dw, p);
+  } else if constexpr (std::is_same_v<W, float>) {
+    return hn::ConvertTo(dw, hn::PromoteTo(hn::Rebind<int32_t, DW>(), hn::LoadU(ds, p)));
+  } else {
+    return hn::PromoteTo(dw, hn::LoadU(ds, p));
+  }
+}
+
+template <int kMode, class DF>
+HWY_INLINE hn::Vec<DF> RoundBy(DF df, hn::Vec<DF> v) {
+  if constexpr (kMode == 0) {
+    return hn::Trunc(v);
+  } else if constexpr (kMode == 1) {
+    return hn::Round(v);
+  } else {
+    return hn::Trunc(hn::Add(v, hn::CopySign(hn::Set(df, 0.5f), v)));
+  }
+}
+
+// Working lanes to the destination type: clamp and round floats, saturate
+// integers.
+template <class D, int kMode, class DW>
+HWY_INLINE auto ToDestination(DW dw, hn::Vec<DW> v) {
+  using W = hn::TFromD<DW>;
+  const hn::Rebind<D, DW> dd;
+  if constexpr (std::is_same_v<W, D>) {
+    return v;
+  } else if constexpr (std::is_same_v<W, float>) {
+    const auto hi = hn::Set(dw, static_cast<float>(std::numeric_limits<D>::max()));
+    const auto lo = hn::Set(dw, static_cast<float>(std::numeric_limits<D>::min()));
+    v = hn::Max(hn::Min(v, hi), lo);
+    return hn::DemoteTo(dd, hn::ConvertTo(hn::Rebind<int32_t, DW>(), RoundBy<kMode>(dw, v)));
+  } else if constexpr (std::is_same_v<W, uint16_t>) {
+    const auto clamped = hn::Min(v, hn::Set(dw, uint16_t{255}));
+    return hn::DemoteTo(dd, hn::BitCast(hn::RebindToSigned<DW>(), clamped));
+  } else {
+    return hn::DemoteTo(dd, v);
+  }
+}
+
+template <class S, class D, int kMode>
+void ConvertRowT(const ConvertJob& job, const S* HWY_RESTRICT src, D* HWY_RESTRICT dst, size_t n) {
+  using W = WorkOf<S, D>;
+  const hn::ScalableTag<W> dw;
+  const hn::Rebind<D, decltype(dw)> dd;
+  const size_t N = hn::Lanes(dw);
+  if (n < N) {
+    scalar::ConvertElements(job, src, dst, 0, n);
+    return;
+  }
+  size_t i = 0;
+  // Streamed stores need aligned addresses: the elements before the first
+  // one go scalar. Only widening pairs stream (their stores are full vectors).
+  bool stream = false;
+  if constexpr (sizeof(D) == sizeof(W)) {
+    stream = job.stream && reinterpret_cast<uintptr_t>(dst) % sizeof(D) == 0;
+    if (stream) {
+      const size_t misalign = reinterpret_cast<uintptr_t>(dst) & (N * sizeof(D) - 1);
+      i = misalign == 0 ? 0 : (N * sizeof(D) - misalign) / sizeof(D);
+      scalar::ConvertElements(job, src, dst, 0, i);
+    }
+  }
+  const bool alpha = HasAlpha(job.layout);
+  const hn::RebindToUnsigned<decltype(dd)> du;
+  using U = hn::TFromD<decltype(du)>;
+  const auto alphaLanes = hn::RebindMask(
+      dd, hn::Eq(hn::And(hn::Iota(du, static_cast<U>(i & 3)), hn::Set(du, U{3})), hn::Set(du, U{3})));
+  const auto mul = hn::Set(dw, static_cast<W>(job.mul));
+  const auto add = hn::Set(dw, static_cast<W>(job.add));
+  const bool affine = std::is_same_v<W, float> && job.affine;
+  for (; i + N <= n; i += N) {
+    auto v = LoadAs(dw, src + i);
+    if (affine) v = hn::Add(hn::Mul(v, mul), add);
+    auto out = ToDestination<D, kMode>(dw, v);
+    if (alpha) out = hn::IfThenElse(alphaLanes, hn::LoadU(dd, dst + i), out);
+    if constexpr (sizeof(D) == sizeof(W)) {
+      if (stream) {
+        hn::Stream(out, dd, dst + i);
+        continue;
+      }
+    }
+    hn::StoreU(out, dd, dst + i);
+  }
+  scalar::ConvertElements(job, src, dst, i, n);
+}
+
+template <class S, class D>
+void ConvertPair(const ConvertJob& job, const void* srcv, void* dstv, size_t n) {
+  const auto* src = static_cast<const S*>(srcv);
+  auto* dst = static_cast<D*>(dstv);
+  if constexpr (std::is_floating_point_v<S>) {
+    if (job.mode == 0) return ConvertRowT<S, D, 0>(job, src, dst, n);
+    if (job.mode == 1) return ConvertRowT<S, D, 1>(job, src, dst, n);
+    return ConvertRowT<S, D, 2>(job, src, dst, n);
+  } else {
+    return ConvertRowT<S, D, 1>(job, src, dst, n);
+  }
+}
+
+#endif
+
+void ConvertRowTarget(int pair, const ConvertJob& job, const void* src, void* dst, size_t n) {
+  switch (pair) {
+#define PEL_CONVERT_CASE(i, S, D) \
+  case i:                         \
+    return ConvertPair<S, D>(job, src, dst, n);
+    PEL_CONVERT_VECTOR_PAIRS(PEL_CONVERT_CASE)
+#undef PEL_CONVERT_CASE
+  }
+}
+
+}  // namespace pel::convert::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace pel::convert {
+
+HWY_EXPORT(ConvertRowTarget);
+
+void ConvertRowAny(int pair, const ConvertJob& job, const void* src, void* dst, size_t elements) {
+  HWY_DYNAMIC_DISPATCH(ConvertRowTarget)(pair, job, src, dst, elements);
+}
+
+void FinishStreams() { hwy::FlushStream(); }
+
+}  // namespace pel::convert
+#endif
