@@ -12,20 +12,19 @@ namespace pel::convert {
 
 namespace {
 
-constexpr int kEps = -1;  // in place of a PelCmpOp: the epsilon test
-
-// b is an image (bStep) or, when `fixed`, one pixel of constants.
+// b is an image (bStep) or, when `fixed`, one pixel of constants. `epsTest`:
+// |a - b| <= eps instead of the comparison cmpOp.
 template <class T, int L>
 PelStatus CompareImage(const T* a, int aStep, const T* b, int bStep, bool fixed, Pel8u* dst, int dstStep,
-                       PeliSize roi, int cmpOp, float eps) {
+                       PeliSize roi, int cmpOp, bool epsTest, float eps) {
   if (AnyNull(a, b, dst)) return pelStatusNullPointer;
   if (BadSteps(aStep, dstStep) || (!fixed && bStep < 1)) return pelStatusBadStep;
   if (BadSize(roi)) return pelStatusBadSize;
-  if (cmpOp == kEps && eps < 0.0f) return pelStatusEpsilonError;
-  if (cmpOp != kEps && static_cast<unsigned>(cmpOp) > 4) return pelStatusOk;  // nothing to do, by design
+  if (epsTest && eps < 0.0f) return pelStatusEpsilonError;
+  if (!epsTest && static_cast<unsigned>(cmpOp) > 4) return pelStatusOk;  // nothing to do, by design
   if constexpr (std::is_same_v<T, Pel8u> && L == kC1) {
     // Comparisons that can never hold: a fill, without reading the source.
-    if (fixed && ((cmpOp == pelCmpLess && *b == 0) || (cmpOp == pelCmpGreater && *b == 255))) {
+    if (!epsTest && fixed && ((cmpOp == pelCmpLess && *b == 0) || (cmpOp == pelCmpGreater && *b == 255))) {
       return datamove::SetC1<Pel8u>(0, dst, dstStep, roi);
     }
   }
@@ -34,8 +33,8 @@ PelStatus CompareImage(const T* a, int aStep, const T* b, int bStep, bool fixed,
   job.eps = eps;
   job.fixedB = fixed;
   // Three comparison kernels: the greater ones are the less ones swapped.
-  const bool swap = cmpOp == pelCmpGreaterEq || cmpOp == pelCmpGreater;
-  job.op = cmpOp == kEps                ? scalar::kEqualEps
+  const bool swap = !epsTest && (cmpOp == pelCmpGreaterEq || cmpOp == pelCmpGreater);
+  job.op = epsTest                ? scalar::kEqualEps
            : cmpOp == pelCmpEq          ? scalar::kEqual
            : cmpOp == pelCmpLess || cmpOp == pelCmpGreater ? scalar::kLess
                                                             : scalar::kLessEq;
@@ -69,25 +68,25 @@ auto Addr(const P& p) {
 template <class T, int L>
 PelStatus Compare(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Pel8u* pDst, int dstStep,
                   PeliSize roiSize, PelCmpOp cmpOp) {
-  return CompareImage<T, L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, roiSize, cmpOp, 0.0f);
+  return CompareImage<T, L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, roiSize, cmpOp, false, 0.0f);
 }
 
 template <class T, int L>
 PelStatus CompareC(const T* pSrc, int srcStep, PerChannel<T, L> value, Pel8u* pDst, int dstStep,
                    PeliSize roiSize, PelCmpOp cmpOp) {
-  return CompareImage<T, L>(pSrc, srcStep, Addr<L>(value), 0, true, pDst, dstStep, roiSize, cmpOp, 0.0f);
+  return CompareImage<T, L>(pSrc, srcStep, Addr<L>(value), 0, true, pDst, dstStep, roiSize, cmpOp, false, 0.0f);
 }
 
 template <int L>
 PelStatus CompareEqualEps(const Pel32f* pSrc1, int src1Step, const Pel32f* pSrc2, int src2Step, Pel8u* pDst,
                           int dstStep, PeliSize roiSize, Pel32f eps) {
-  return CompareImage<Pel32f, L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, roiSize, kEps, eps);
+  return CompareImage<Pel32f, L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, roiSize, 0, true, eps);
 }
 
 template <int L>
 PelStatus CompareEqualEpsC(const Pel32f* pSrc, int srcStep, PerChannel<Pel32f, L> value, Pel8u* pDst,
                            int dstStep, PeliSize roiSize, Pel32f eps) {
-  return CompareImage<Pel32f, L>(pSrc, srcStep, Addr<L>(value), 0, true, pDst, dstStep, roiSize, kEps, eps);
+  return CompareImage<Pel32f, L>(pSrc, srcStep, Addr<L>(value), 0, true, pDst, dstStep, roiSize, 0, true, eps);
 }
 
 #define PEL_EXPORT PEL_INSTANTIATE_EXPORT
