@@ -176,12 +176,14 @@ void CompareRowT(const CompareJob<T>& j, const T* HWY_RESTRICT a, const T* HWY_R
   const size_t N = hn::Lanes(d);
   using V = hn::Vec<decltype(d)>;
   V va[C], vb[C];
+  const int worked = WorkedChannels(j.layout);
+  // A fixed pixel has only the worked channels (an AC4 constant has three).
   for (int c = 0; c < C; ++c) {
-    if (j.fixedA) va[c] = hn::Set(d, a[c]);
-    if (j.fixedB) vb[c] = hn::Set(d, b[c]);
+    va[c] = vb[c] = hn::Zero(d);
+    if (j.fixedA && c < worked) va[c] = hn::Set(d, a[c]);
+    if (j.fixedB && c < worked) vb[c] = hn::Set(d, b[c]);
   }
   const V eps = hn::Set(d, static_cast<T>(j.eps));
-  const int worked = WorkedChannels(j.layout);
   size_t x = 0;
   for (; x + N <= n; x += N) {
     if (!j.fixedA) LoadPixels<C>(d, a + x * C, va);
