@@ -104,26 +104,55 @@ void ConvertRowT(const ConvertJob& job, const S* HWY_RESTRICT src, D* HWY_RESTRI
       scalar::ConvertElements(job, src, dst, 0, i);
     }
   }
-  const bool alpha = HasAlpha(job.layout);
   const hn::RebindToUnsigned<decltype(dd)> du;
   using U = hn::TFromD<decltype(du)>;
   const auto alphaLanes = hn::RebindMask(
       dd, hn::Eq(hn::And(hn::Iota(du, static_cast<U>(i & 3)), hn::Set(du, U{3})), hn::Set(du, U{3})));
   const auto mul = hn::Set(dw, static_cast<W>(job.mul));
   const auto add = hn::Set(dw, static_cast<W>(job.add));
-  const bool affine = std::is_same_v<W, float> && job.affine;
-  for (; i + N <= n; i += N) {
-    auto v = LoadAs(dw, src + i);
-    if (affine) v = hn::Add(hn::Mul(v, mul), add);
-    auto out = ToDestination<D, kMode>(dw, v);
-    if (alpha) out = hn::IfThenElse(alphaLanes, hn::LoadU(dd, dst + i), out);
-    if constexpr (sizeof(D) == sizeof(W)) {
-      if (stream) {
-        hn::Stream(out, dd, dst + i);
-        continue;
+  // One loop per combination of the per-row choices, so that none of them
+  // costs a branch per vector; two vectors a step.
+  auto loop = [&](auto kAffine, auto kAlpha, auto kStream) {
+    auto one = [&](size_t at) {
+      auto v = LoadAs(dw, src + at);
+      if constexpr (kAffine()) v = hn::Add(hn::Mul(v, mul), add);
+      auto out = ToDestination<D, kMode>(dw, v);
+      if constexpr (kAlpha()) out = hn::IfThenElse(alphaLanes, hn::LoadU(dd, dst + at), out);
+      if constexpr (kStream()) {
+        hn::Stream(out, dd, dst + at);
+      } else {
+        hn::StoreU(out, dd, dst + at);
       }
+    };
+    for (; i + 2 * N <= n; i += 2 * N) {
+      one(i);
+      one(i + N);
     }
-    hn::StoreU(out, dd, dst + i);
+    if (i + N <= n) {
+      one(i);
+      i += N;
+    }
+  };
+  using False = std::false_type;
+  using True = std::true_type;
+  auto withStream = [&](auto kAffine, auto kAlpha) {
+    if constexpr (sizeof(D) == sizeof(W)) {
+      if (stream) return loop(kAffine, kAlpha, True{});
+    }
+    loop(kAffine, kAlpha, False{});
+  };
+  auto withAlpha = [&](auto kAffine) {
+    if (HasAlpha(job.layout)) return withStream(kAffine, True{});
+    withStream(kAffine, False{});
+  };
+  if constexpr (std::is_same_v<W, float>) {
+    if (job.affine) {
+      withAlpha(True{});
+    } else {
+      withAlpha(False{});
+    }
+  } else {
+    withAlpha(False{});
   }
   scalar::ConvertElements(job, src, dst, i, n);
 }
