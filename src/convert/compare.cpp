@@ -54,15 +54,6 @@ PelStatus CompareImage(const T* a, int aStep, const T* b, int bStep, bool fixed,
   return pelStatusOk;
 }
 
-template <int L, class P>
-auto Addr(const P& p) {
-  if constexpr (L == kC1) {
-    return &p;
-  } else {
-    return p;
-  }
-}
-
 }  // namespace
 
 template <class T, int L>

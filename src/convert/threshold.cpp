@@ -25,15 +25,6 @@ struct Limits {
   const T* vGT = nullptr;
 };
 
-template <int L, class P>
-auto Addr(const P& p) {
-  if constexpr (L == kC1) {
-    return &p;
-  } else {
-    return p;
-  }
-}
-
 // Comparisons with these never hold: nothing lies below the lowest value or
 // above the highest (for floats, the infinities; NaN compares false anyway).
 template <class T>

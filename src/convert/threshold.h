@@ -13,6 +13,17 @@ namespace pel::convert {
 template <class T, int L>
 using PerChannel = std::conditional_t<L == kC1, T, const T*>;
 
+// The per-channel argument as a pointer: a one-channel member's by-value
+// argument is addressed where it lies (valid for the call).
+template <int L, class P>
+auto Addr(const P& p) {
+  if constexpr (L == kC1) {
+    return &p;
+  } else {
+    return p;
+  }
+}
+
 #define PEL_THRESHOLD_DECLARE(Name, ...)                                                               \
   template <class T, int L>                                                                            \
   PelStatus Name(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, __VA_ARGS__);     \
