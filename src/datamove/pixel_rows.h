@@ -1,0 +1,90 @@
+// Whole-pixel row operations for the mirror and border walkers: copy,
+// reverse and fill a run of pixels of any size, with or without an alpha
+// lane that keeps its value. They pick the vector kernel, or the scalar
+// reference where the two ranges share memory, so that a call whose source
+// and destination overlap gets the same bytes at every dispatch level. Runs
+// longer than 1 GiB go to the kernels in pieces (see row_pieces.h).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "datamove/mask_scalar.h"
+#include "datamove/mirror_scalar.h"
+#include "datamove/pixel_bytes.h"
+#include "datamove/row_kernels.h"
+#include "datamove/row_mask_kernels.h"
+#include "datamove/row_mirror_kernels.h"
+#include "datamove/row_overlap.h"
+#include "datamove/row_pieces.h"
+#include "datamove/row_scalar.h"
+
+namespace pel::datamove {
+
+inline bool Share(const void* a, const void* b, uint64_t bytes) {
+  return Overlap(RangeOf(a, bytes), RangeOf(b, bytes));
+}
+
+// Pixels of a run in one kernel call: a whole number of pixels of any size
+// within a piece.
+inline constexpr uint64_t kPiecePixels = kMaxPieceBytes / 16;
+
+// n pixels from s to d, forward.
+inline void CopyPixels(const uint8_t* s, uint8_t* d, uint64_t n, PixelBytes px, bool stream) {
+  const auto P = static_cast<uint64_t>(px.bytes);
+  if (s == d) return;  // the pixels are already where they belong
+  const bool shared = Share(s, d, n * P);
+  for (uint64_t done = 0; done < n; done += kPiecePixels) {
+    const auto m = static_cast<size_t>(n - done < kPiecePixels ? n - done : kPiecePixels);
+    const uint8_t* ps = s + done * P;
+    uint8_t* pd = d + done * P;
+    if (!px.keepAlpha) {
+      if (shared) scalar::CopyRow(ps, pd, m * P);
+      else CopyRow(ps, pd, m * P, stream);
+      continue;
+    }
+    const int e = px.bytes / 4;
+    if (!shared) {
+      AlphaCopyRowAny(ps, pd, m, e, stream);
+    } else if (e == 1) {
+      scalar::AlphaCopyRow(ps, pd, m);
+    } else if (e == 2) {
+      scalar::AlphaCopyRow(reinterpret_cast<const uint16_t*>(ps), reinterpret_cast<uint16_t*>(pd), m);
+    } else {
+      scalar::AlphaCopyRow(reinterpret_cast<const uint32_t*>(ps), reinterpret_cast<uint32_t*>(pd), m);
+    }
+  }
+}
+
+// d pixel n-1-x = s pixel x.
+inline void ReversePixels(const uint8_t* s, uint8_t* d, uint64_t n, PixelBytes px, bool stream) {
+  const auto m = static_cast<size_t>(n);
+  if (Share(s, d, n * static_cast<uint64_t>(px.bytes))) {
+    scalar::ReverseRowAny(s, d, m, px);
+  } else {
+    ReverseRow(s, d, m, px, stream);
+  }
+}
+
+// n pixels set to the pixel at `value` (whose alpha lane, if kept, is not
+// read). The value is taken before the first store, so it may lie in the run.
+inline void FillPixels(uint8_t* d, uint64_t n, const void* value, PixelBytes px) {
+  uint8_t pixel[16];
+  std::memcpy(pixel, value, static_cast<size_t>(px.written()));
+  const int P = px.bytes;
+  // SetRowAny wants lanes and channels: a three-lane pixel has P / 3-byte
+  // lanes, a four-lane one P / 4, the others are one lane.
+  const int lanes = P % 3 == 0 ? 3 : P > 4 ? 4 : 1;
+  for (uint64_t done = 0; done < n; done += kPiecePixels) {
+    const auto m = static_cast<size_t>(n - done < kPiecePixels ? n - done : kPiecePixels);
+    uint8_t* pd = d + done * static_cast<uint64_t>(P);
+    if (px.keepAlpha) {
+      AlphaSetRowAny(pd, m, pixel, P / 4, false);
+    } else {
+      SetRowAny(pd, m, pixel, P / lanes, lanes, false);
+    }
+  }
+}
+
+}  // namespace pel::datamove
