@@ -12,7 +12,10 @@ namespace pel::datamove {
 
 namespace {
 
+// Most coordinates are at most one period away: no division for them.
 int64_t FloorMod(int64_t v, int64_t m) {
+  if (v >= 0 && v < m) return v;
+  if (v < 0 && v >= -m) return v + m;
   const int64_t r = v % m;
   return r < 0 ? r + m : r;
 }
@@ -82,11 +85,43 @@ void BuildRow(const uint8_t* row, int64_t W, const BorderRule& rule, PixelBytes 
 
 }  // namespace
 
+namespace {
+
+// Whether every row of the window is a frame narrower than the source on
+// both sides around the whole source row, made by the kind alone, with
+// nothing shared between what is read and what is written: then each row
+// is one kernel call (the common case, and the one filters meet).
+bool NarrowFrame(const BorderSource& src, const BorderRule& rule, PixelBytes px,
+                 const BorderWindow& window, const void* dst, ptrdiff_t dstStep, bool roiAlreadyThere) {
+  const int64_t left = -window.x, right = window.x + window.width - src.width;
+  if ((rule.inMemory & (pelBorderInMemLeft | pelBorderInMemRight)) != 0) return false;
+  if (left < 0 || right < 0 || left >= src.width || right >= src.width) return false;
+  const auto rows = static_cast<uint64_t>(window.height);
+  const uint64_t rowBytes = static_cast<uint64_t>(window.width) * static_cast<uint64_t>(px.bytes);
+  if (roiAlreadyThere) return rows == 1 || Magnitude(dstStep) >= rowBytes;
+  const uint64_t srcRows = static_cast<uint64_t>(src.height);
+  const uint64_t srcBytes = static_cast<uint64_t>(src.width) * static_cast<uint64_t>(px.bytes);
+  return !Overlap(SpanOf(src.pixels, src.step, srcRows, srcBytes), SpanOf(dst, dstStep, rows, rowBytes));
+}
+
+FrameKind FrameKindOf(BorderKind kind) {
+  switch (kind) {
+    case BorderKind::Constant: return kFrameConstant;
+    case BorderKind::Replicate: return kFrameReplicate;
+    case BorderKind::Mirror: return kFrameMirror;
+    case BorderKind::Wrap: break;
+  }
+  return kFrameWrap;
+}
+
+}  // namespace
+
 void BuildBorderWindow(const BorderSource& src, const BorderRule& rule, PixelBytes px,
                        const BorderWindow& window, void* dst, ptrdiff_t dstStep,
                        bool roiAlreadyThere) {
   const bool topInMemory = (rule.inMemory & pelBorderInMemTop) != 0;
   const bool bottomInMemory = (rule.inMemory & pelBorderInMemBottom) != 0;
+  const bool narrow = NarrowFrame(src, rule, px, window, dst, dstStep, roiAlreadyThere);
   for (int64_t r = 0; r < window.height; ++r) {
     const int64_t y = window.y + r;
     auto* out = static_cast<uint8_t*>(Row(dst, dstStep, static_cast<ptrdiff_t>(r)));
@@ -98,6 +133,12 @@ void BuildBorderWindow(const BorderSource& src, const BorderRule& rule, PixelByt
     }
     const int64_t sy = inMemory ? y : MapInto(y, src.height, rule.kind);
     const auto* row = static_cast<const uint8_t*>(Row(src.pixels, src.step, static_cast<ptrdiff_t>(sy)));
+    if (narrow) {
+      FrameRow(row, out, static_cast<size_t>(src.width), static_cast<size_t>(-window.x),
+               static_cast<size_t>(window.x + window.width - src.width), FrameKindOf(rule.kind), px, rule.value,
+               roiAlreadyThere && inside);
+      continue;
+    }
     BuildRow(row, src.width, rule, px, window.x, window.x + window.width, out, roiAlreadyThere && inside);
   }
 }

@@ -21,17 +21,6 @@ constexpr int kBothAxes = 2;
 constexpr int kMainDiagonal = 3;
 constexpr int kSecondDiagonal = 4;
 
-uint64_t Magnitude(ptrdiff_t step) {
-  return step < 0 ? uint64_t{0} - static_cast<uint64_t>(step) : static_cast<uint64_t>(step);
-}
-
-// The bytes from the lowest to the highest address that `rows` rows of
-// `rowBytes` bytes span, whichever way the step runs.
-ByteRange SpanOf(const void* first, ptrdiff_t step, uint64_t rows, uint64_t rowBytes) {
-  const auto* lowest = static_cast<const uint8_t*>(step < 0 ? Row(first, step, static_cast<ptrdiff_t>(rows - 1)) : first);
-  return RangeOf(lowest, Magnitude(step) * (rows - 1) + rowBytes);
-}
-
 // A source of w x h pixels into a destination of h x w. Where the two areas
 // share memory the reference's order (destination row by row) defines the
 // result, which then depends on nothing else.

@@ -12,7 +12,12 @@
 #include "core/common.h"
 #include "datamove/pixel_bytes.h"
 
-namespace pel::datamove::scalar {
+namespace pel::datamove {
+
+// How a frame row makes the pixels left and right of a source row.
+enum FrameKind { kFrameConstant, kFrameReplicate, kFrameMirror, kFrameWrap };
+
+namespace scalar {
 
 // dst pixel n-1-x = src pixel x.
 template <int P, bool kKeep>
@@ -67,7 +72,36 @@ void TransposeSquareInPlace(uint8_t* p, ptrdiff_t step, size_t n) {
     }
 }
 
+// left pixels, the row (unless it is there already), right pixels; the
+// frame narrower than the row on both sides.
+template <int P, bool kKeep>
+void FrameRow(const uint8_t* row, uint8_t* out, size_t w, size_t left, size_t right, FrameKind kind,
+              const uint8_t* value, bool middleThere) {
+  const auto W = static_cast<ptrdiff_t>(w);
+  for (ptrdiff_t x = -static_cast<ptrdiff_t>(left); x < W + static_cast<ptrdiff_t>(right); ++x) {
+    const bool inside = x >= 0 && x < W;
+    if (inside && middleThere) continue;
+    ptrdiff_t from = x;
+    if (!inside) {
+      switch (kind) {
+        case kFrameConstant: from = -1; break;
+        case kFrameReplicate: from = x < 0 ? 0 : W - 1; break;
+        case kFrameMirror: from = x < 0 ? -x : 2 * W - 2 - x; break;
+        case kFrameWrap: from = x < 0 ? x + W : x - W; break;
+      }
+    }
+    MovePixel<P, kKeep>(out + (x + static_cast<ptrdiff_t>(left)) * P, from < 0 ? value : row + from * P);
+  }
+}
+
 // Runtime-typed forms, for walkers that fall back to the reference.
+inline void FrameRowAny(const void* row, void* out, size_t w, size_t left, size_t right, FrameKind kind,
+                        PixelBytes px, const void* value, bool middleThere) {
+  VisitPixel(px, [&](auto p, auto k) {
+    FrameRow<p(), k()>(static_cast<const uint8_t*>(row), static_cast<uint8_t*>(out), w, left, right, kind,
+                       static_cast<const uint8_t*>(value), middleThere);
+  });
+}
 inline void ReverseRowAny(const void* src, void* dst, size_t n, PixelBytes px) {
   VisitPixel(px, [&](auto p, auto k) {
     ReverseRow<p(), k()>(static_cast<const uint8_t*>(src), static_cast<uint8_t*>(dst), n);
@@ -97,4 +131,5 @@ inline void TransposeSquareInPlaceAny(void* a, ptrdiff_t step, size_t n, PixelBy
   VisitPixel(px, [&](auto p, auto) { TransposeSquareInPlace<p()>(static_cast<uint8_t*>(a), step, n); });
 }
 
-}  // namespace pel::datamove::scalar
+}  // namespace scalar
+}  // namespace pel::datamove

@@ -15,10 +15,12 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include "datamove/gather.h"
 #include "datamove/mirror_scalar.h"
+#include "datamove/pixel_rows.h"
 #include "datamove/row_mirror_kernels.h"
 #include "hwy/highway.h"
 
@@ -104,6 +106,10 @@ void SwapRowsTarget(void* a, void* b, size_t n, PixelBytes px) { scalar::SwapRow
 void GatherRowTarget(const void* src, void* dst, size_t n, const GatherPlan& plan) {
   scalar::GatherRowAny(src, dst, n, plan);
 }
+void FrameRowTarget(const void* row, void* out, size_t width, size_t left, size_t right, FrameKind kind,
+                    PixelBytes px, const void* value, bool middleThere) {
+  scalar::FrameRowAny(row, out, width, left, right, kind, px, value, middleThere);
+}
 
 #else
 
@@ -119,12 +125,13 @@ HWY_INLINE void Unroll(F&& f) {
   UnrollSeq(std::make_index_sequence<N>{}, f);
 }
 
-// Q pixels of P in {1, 2, 4, 8, 16} bytes in one vector of the target's width.
-template <int P, bool kKeepAlpha>
+// Q pixels of P in {1, 2, 4, 8, 16} bytes in one vector of the target's
+// width (or of 16 bytes, for short runs).
+template <int P, bool kKeepAlpha, class Tag = hn::ScalableTag<uint8_t>>
 struct WideBlock {
   static constexpr int kP = P;
   static constexpr bool kKeep = kKeepAlpha;
-  using D = hn::ScalableTag<uint8_t>;
+  using D = Tag;
   using B = hn::Vec<D>;
   D d;
   size_t Q;
@@ -368,7 +375,92 @@ void GatherT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan& plan)
   if (ci == 4 && co == 3) return GatherGroupsT<U, 4, 3>(src, dst, n, plan);
 }
 
+// Bytes from s to d: the bytes up to d's first 64-byte boundary first, so
+// that the loop's stores never straddle two cache lines.
+HWY_INLINE void CopyBytes(const uint8_t* s, uint8_t* d, size_t n) {
+  const hn::ScalableTag<uint8_t> tag;
+  const size_t N = hn::Lanes(tag);
+  const size_t head = (64 - reinterpret_cast<uintptr_t>(d) % 64) % 64;
+  if (n < head + 4 * N) {
+    std::memcpy(d, s, n);
+    return;
+  }
+  std::memcpy(d, s, head);
+  size_t i = head;
+  for (; i + 4 * N <= n; i += 4 * N) {
+    const auto v0 = hn::LoadU(tag, s + i), v1 = hn::LoadU(tag, s + i + N);
+    const auto v2 = hn::LoadU(tag, s + i + 2 * N), v3 = hn::LoadU(tag, s + i + 3 * N);
+    hn::Store(v0, tag, d + i);
+    hn::Store(v1, tag, d + i + N);
+    hn::Store(v2, tag, d + i + 2 * N);
+    hn::Store(v3, tag, d + i + 3 * N);
+  }
+  for (; i + N <= n; i += N) hn::Store(hn::LoadU(tag, s + i), tag, d + i);
+  if (i < n) hn::StoreU(hn::LoadU(tag, s + n - N), tag, d + n - N);
+}
+
+// Runs of a frame row: short ones here, long ones (wide frames, rare) by
+// the general kernels.
+template <int P, bool kKeep>
+HWY_INLINE void CopyRun(const uint8_t* s, uint8_t* d, size_t n) {
+  if constexpr (kKeep) {
+    if (n * P > 64) return AlphaCopyRowAny(s, d, n, P / 4, false);
+    for (size_t x = 0; x < n; ++x) MovePixel<P, true>(d + x * P, s + x * P);
+  } else {
+    CopyBytes(s, d, n * P);
+  }
+}
+
+template <int P, bool kKeep>
+HWY_INLINE void FillRun(uint8_t* d, size_t n, const uint8_t* pixel) {
+  if (n * P > 64) return FillPixels(d, n, pixel, PixelBytes{P, kKeep});
+  if constexpr (P == 1) {
+    std::memset(d, pixel[0], n);
+  } else {
+    for (size_t x = 0; x < n; ++x) MovePixel<P, kKeep>(d + x * P, pixel);
+  }
+}
+
+template <int P, bool kKeep>
+HWY_INLINE void ReverseRun(const uint8_t* s, uint8_t* d, size_t n) {
+  if constexpr (P % 3 == 0) {
+    scalar::ReverseRow<P, kKeep>(s, d, n);
+  } else if (n * P >= 64) {
+    ReverseRowT(WideBlock<P, kKeep>(), s, d, n, false);
+  } else {
+    ReverseRowT(WideBlock<P, kKeep, hn::Full128<uint8_t>>(), s, d, n, false);  // scalar below 16 bytes
+  }
+}
+
+template <int P, bool kKeep>
+void FrameRowT(const uint8_t* row, uint8_t* out, size_t W, size_t L, size_t R, FrameKind kind,
+               const uint8_t* value, bool middleThere) {
+  uint8_t* mid = out + L * P;
+  uint8_t* right = mid + W * P;
+  switch (kind) {
+    case kFrameConstant: FillRun<P, kKeep>(out, L, value); break;
+    case kFrameReplicate: FillRun<P, kKeep>(out, L, row); break;
+    case kFrameMirror: ReverseRun<P, kKeep>(row + P, out, L); break;
+    case kFrameWrap: CopyRun<P, kKeep>(row + (W - L) * P, out, L); break;
+  }
+  if (!middleThere) CopyRun<P, kKeep>(row, mid, W);
+  switch (kind) {
+    case kFrameConstant: FillRun<P, kKeep>(right, R, value); break;
+    case kFrameReplicate: FillRun<P, kKeep>(right, R, row + (W - 1) * P); break;
+    case kFrameMirror: ReverseRun<P, kKeep>(row + (W - 1 - R) * P, right, R); break;
+    case kFrameWrap: CopyRun<P, kKeep>(row, right, R); break;
+  }
+}
+
 }  // namespace
+
+void FrameRowTarget(const void* row, void* out, size_t width, size_t left, size_t right, FrameKind kind,
+                    PixelBytes px, const void* value, bool middleThere) {
+  VisitPixel(px, [&](auto p, auto k) {
+    FrameRowT<p(), k()>(static_cast<const uint8_t*>(row), static_cast<uint8_t*>(out), width, left, right,
+                        kind, static_cast<const uint8_t*>(value), middleThere);
+  });
+}
 
 void ReverseRowTarget(const void* src, void* dst, size_t n, PixelBytes px, bool stream) {
   WithBlock(px, [&](const auto& k) {
@@ -421,6 +513,12 @@ HWY_EXPORT(ReverseRowInPlaceTarget);
 HWY_EXPORT(ReverseSwapRowsTarget);
 HWY_EXPORT(SwapRowsTarget);
 HWY_EXPORT(GatherRowTarget);
+HWY_EXPORT(FrameRowTarget);
+
+void FrameRow(const void* row, void* out, size_t width, size_t left, size_t right, FrameKind kind,
+              PixelBytes px, const void* value, bool middleThere) {
+  HWY_DYNAMIC_DISPATCH(FrameRowTarget)(row, out, width, left, right, kind, px, value, middleThere);
+}
 
 void ReverseRow(const void* src, void* dst, size_t pixels, PixelBytes px, bool stream) {
   HWY_DYNAMIC_DISPATCH(ReverseRowTarget)(src, dst, pixels, px, stream);

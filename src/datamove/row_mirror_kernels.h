@@ -12,6 +12,7 @@
 #include <cstdint>
 
 #include "datamove/gather.h"
+#include "datamove/mirror_scalar.h"
 #include "datamove/pixel_bytes.h"
 
 namespace pel::datamove {
@@ -27,6 +28,15 @@ void SwapRows(void* a, void* b, size_t pixels, PixelBytes px);
 // The plan's gather over one row. The rows may be the very same memory
 // (pixels of equal size, same start); otherwise they share none.
 void GatherRow(const void* src, void* dst, size_t pixels, const GatherPlan& plan);
+
+// One row of a frame narrower than its source on both sides (left and
+// right below `width`): `left` pixels, the source row, `right` pixels, the
+// border pixels made by `kind` (0 Constant from `value`, 1 Replicate,
+// 2 Mirror, 3 Wrap). With `middleThere` the source row already lies in the
+// middle of `out` and is not copied. `out` shares no memory with `row`
+// other than that middle.
+void FrameRow(const void* row, void* out, size_t width, size_t left, size_t right, FrameKind kind,
+              PixelBytes px, const void* value, bool middleThere);
 
 // dst(x = j, y = i) = src(x = i, y = j) for a source of w x h pixels; the
 // two images share no memory.

@@ -5,9 +5,8 @@
 // A tile of k x k pixels of P bytes (k = 16 / P: 16 x 16 bytes, 8 x 8 words,
 // 4 x 4 dwords, 2 x 2 qwords) sits in k 16-byte vectors, one a row. One
 // round of interleaving rows i and i + k/2 rotates each pixel's (row,
-// column) index bits by one place; log2(k) rounds make the transpose. The
-// image is walked in blocks of 64 x 64 pixels, so that the rows a block
-// reads and writes stay in the first-level cache. Three-channel pixels
+// column) index bits by one place; log2(k) rounds make the transpose.
+// Three-channel pixels
 // (3, 6 and 12 bytes) take the scalar reference.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "datamove/row_transpose_kernels.cpp"
@@ -32,8 +31,8 @@ alignas(16) constexpr uint8_t kAlphaBytes[3][16] = {
     {0, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF},
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF}};
 
-// Pixels per side of the blocks the image walk goes through.
-constexpr size_t kBlockPixels = 64;
+// Bytes of a source row that one strip of the image walk covers.
+constexpr size_t kStripBytes = 64;
 
 }  // namespace
 }  // namespace pel::datamove
@@ -120,6 +119,11 @@ struct Tile {
 // the last tile of a row or column overlaps the one before it and writes
 // those pixels again with the same values. Images narrower or lower than
 // one tile take the reference.
+//
+// The walk goes down strips of source columns one cache line wide: each
+// source line is read once, whole, and the strip's destination rows (one a
+// source column) are written front to back, each of their lines filled
+// while it is still in the cache.
 template <int P, bool kKeep>
 void TransposeT(const uint8_t* src, ptrdiff_t ss, uint8_t* dst, ptrdiff_t ds, size_t w, size_t h,
                 bool stream) {
@@ -128,20 +132,20 @@ void TransposeT(const uint8_t* src, ptrdiff_t ss, uint8_t* dst, ptrdiff_t ds, si
     scalar::Transpose<P, kKeep>(src, ss, dst, ds, w, h);
     return;
   }
+  constexpr size_t kStrip = kStripBytes / P > k ? kStripBytes / P : k;
   const bool streamRows = stream && ds % 16 == 0;
-  for (size_t by = 0; by < h; by += kBlockPixels) {
-    for (size_t bx = 0; bx < w; bx += kBlockPixels) {
-      const size_t yEnd = std::min(by + kBlockPixels, h), xEnd = std::min(bx + kBlockPixels, w);
-      for (size_t ty = by; ty < yEnd; ty += k) {
-        const size_t y = std::min(ty, h - k);
-        for (size_t tx = bx; tx < xEnd; tx += k) {
-          const size_t x = std::min(tx, w - k);
-          Tile<P> t;
-          t.Load(Row(src, ss, static_cast<ptrdiff_t>(y)) + x * P, ss);
-          t.Transpose();
-          uint8_t* d = Row(dst, ds, static_cast<ptrdiff_t>(x)) + y * P;
-          t.template Store<kKeep>(d, ds, streamRows && reinterpret_cast<uintptr_t>(d) % 16 == 0);
-        }
+  for (size_t bx = 0; bx < w; bx += kStrip) {
+    const size_t xEnd = std::min(bx + kStrip, w);
+    for (size_t ty = 0; ty < h; ty += k) {
+      const size_t y = std::min(ty, h - k);
+      const uint8_t* s = Row(src, ss, static_cast<ptrdiff_t>(y));
+      for (size_t tx = bx; tx < xEnd; tx += k) {
+        const size_t x = std::min(tx, w - k);
+        Tile<P> t;
+        t.Load(s + x * P, ss);
+        t.Transpose();
+        uint8_t* d = Row(dst, ds, static_cast<ptrdiff_t>(x)) + y * P;
+        t.template Store<kKeep>(d, ds, streamRows && reinterpret_cast<uintptr_t>(d) % 16 == 0);
       }
     }
   }
