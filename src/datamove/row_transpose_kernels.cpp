@@ -31,8 +31,9 @@ alignas(16) constexpr uint8_t kAlphaBytes[3][16] = {
     {0, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF},
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF}};
 
-// Bytes of a source row that one strip of the image walk covers.
+// The blocks of the image walk: bytes of a source row, and rows.
 constexpr size_t kStripBytes = 64;
+constexpr size_t kBlockRows = 256;
 
 }  // namespace
 }  // namespace pel::datamove
@@ -120,10 +121,10 @@ struct Tile {
 // those pixels again with the same values. Images narrower or lower than
 // one tile take the reference.
 //
-// The walk goes down strips of source columns one cache line wide: each
-// source line is read once, whole, and the strip's destination rows (one a
-// source column) are written front to back, each of their lines filled
-// while it is still in the cache.
+// The walk goes through blocks one cache line of source columns wide and
+// kBlockRows rows high: each source line is read once, whole, and each
+// destination line is filled while it is still in the cache, while the
+// pages a block touches stay few enough for the address translation caches.
 template <int P, bool kKeep>
 void TransposeT(const uint8_t* src, ptrdiff_t ss, uint8_t* dst, ptrdiff_t ds, size_t w, size_t h,
                 bool stream) {
@@ -134,18 +135,21 @@ void TransposeT(const uint8_t* src, ptrdiff_t ss, uint8_t* dst, ptrdiff_t ds, si
   }
   constexpr size_t kStrip = kStripBytes / P > k ? kStripBytes / P : k;
   const bool streamRows = stream && ds % 16 == 0;
-  for (size_t bx = 0; bx < w; bx += kStrip) {
-    const size_t xEnd = std::min(bx + kStrip, w);
-    for (size_t ty = 0; ty < h; ty += k) {
-      const size_t y = std::min(ty, h - k);
-      const uint8_t* s = Row(src, ss, static_cast<ptrdiff_t>(y));
-      for (size_t tx = bx; tx < xEnd; tx += k) {
-        const size_t x = std::min(tx, w - k);
-        Tile<P> t;
-        t.Load(s + x * P, ss);
-        t.Transpose();
-        uint8_t* d = Row(dst, ds, static_cast<ptrdiff_t>(x)) + y * P;
-        t.template Store<kKeep>(d, ds, streamRows && reinterpret_cast<uintptr_t>(d) % 16 == 0);
+  for (size_t by = 0; by < h; by += kBlockRows) {
+    const size_t yEnd = std::min(by + kBlockRows, h);
+    for (size_t bx = 0; bx < w; bx += kStrip) {
+      const size_t xEnd = std::min(bx + kStrip, w);
+      for (size_t ty = by; ty < yEnd; ty += k) {
+        const size_t y = std::min(ty, h - k);
+        const uint8_t* s = Row(src, ss, static_cast<ptrdiff_t>(y));
+        for (size_t tx = bx; tx < xEnd; tx += k) {
+          const size_t x = std::min(tx, w - k);
+          Tile<P> t;
+          t.Load(s + x * P, ss);
+          t.Transpose();
+          uint8_t* d = Row(dst, ds, static_cast<ptrdiff_t>(x)) + y * P;
+          t.template Store<kKeep>(d, ds, streamRows && reinterpret_cast<uintptr_t>(d) % 16 == 0);
+        }
       }
     }
   }
