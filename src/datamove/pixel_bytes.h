@@ -56,13 +56,15 @@ inline void MovePixel(uint8_t* d, const uint8_t* s) {
   std::memcpy(d, s, kKeep ? P - P / 4 : P);
 }
 
-// Exchanges the written bytes of two pixels.
+// Exchanges the written bytes of two pixels. Both are read before either
+// is written, so rows that share memory (a zero step) give a defined result.
 template <int P, bool kKeep>
 inline void ExchangePixels(uint8_t* a, uint8_t* b) {
-  uint8_t t[P];
-  MovePixel<P, kKeep>(t, a);
-  MovePixel<P, kKeep>(a, b);
-  MovePixel<P, kKeep>(b, t);
+  uint8_t ta[P], tb[P];
+  MovePixel<P, false>(ta, a);
+  MovePixel<P, false>(tb, b);
+  MovePixel<P, kKeep>(a, tb);
+  MovePixel<P, kKeep>(b, ta);
 }
 
 }  // namespace pel::datamove

@@ -116,15 +116,27 @@ inline void FillPixels(uint8_t* d, uint64_t n, const void* value, PixelBytes px)
     return;
   }
   // SetRowAny wants lanes and channels: a three-lane pixel has P / 3-byte
-  // lanes, a four-lane one P / 4, the others are one lane.
+  // lanes, a four-lane one P / 4, the others are one lane. A pixel of four
+  // bytes may be four 8-bit lanes, which need not be aligned for one 32-bit
+  // lane: such a run doubles a first pixel by byte copies instead.
   const int lanes = P % 3 == 0 ? 3 : P > 4 ? 4 : 1;
+  const int laneBytes = P / lanes;
+  if (!px.keepAlpha && reinterpret_cast<uintptr_t>(d) % static_cast<uintptr_t>(laneBytes) != 0) {
+    std::memcpy(d, pixel, static_cast<size_t>(P));
+    for (uint64_t filled = 1; filled < n;) {
+      const uint64_t more = n - filled < filled ? n - filled : filled;
+      CopyPixels(d, d + filled * static_cast<uint64_t>(P), more, px, false);
+      filled += more;
+    }
+    return;
+  }
   for (uint64_t done = 0; done < n; done += kPiecePixels) {
     const auto m = static_cast<size_t>(n - done < kPiecePixels ? n - done : kPiecePixels);
     uint8_t* pd = d + done * static_cast<uint64_t>(P);
     if (px.keepAlpha) {
       AlphaSetRowAny(pd, m, pixel, P / 4, false);
     } else {
-      SetRowAny(pd, m, pixel, P / lanes, lanes, false);
+      SetRowAny(pd, m, pixel, laneBytes, lanes, false);
     }
   }
 }
