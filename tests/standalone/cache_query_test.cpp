@@ -89,3 +89,58 @@ TEST_F(CacheQuery, AnswerChangesSpeedNotBytes) {
 }
 
 }  // namespace
+
+namespace {
+
+// How often one call of a row on a one-row image of `width` pixels asks.
+int QueriesOfVariant(const std::string& name, const std::string& variant, int width) {
+  const peltest::Row row = peltest::FindRow(name, variant);
+  gQueries = 0;
+  peltest::RunRow(row, Layout{width, 1, 1}, 1);
+  return gQueries;
+}
+
+// Mirrors of four-channel images and transposes of 32-bit data count the
+// bytes of both images; other mirrors and transposes never ask.
+TEST_F(CacheQuery, MirrorAndTranspose) {
+  struct Case {
+    const char* name;
+    const char* variant;
+    int widthAtLimit;
+  };
+  const Case asks[] = {{"peliMirror_8u_C4R", "flip1", 65536},     {"peliMirror_16s_AC4R", "flip0", 32768},
+                       {"peliMirror_32f_C4R", "flip2", 16384},    {"peliTranspose_32f_C1R", "", 65536},
+                       {"peliTranspose_32s_C3R", "", 21845},      {"peliTranspose_32fc_C1R", "", 32768}};
+  for (const Case& c : asks) {
+    EXPECT_EQ(QueriesOfVariant(c.name, c.variant, c.widthAtLimit), 0) << c.name;
+    EXPECT_EQ(QueriesOfVariant(c.name, c.variant, c.widthAtLimit + 1), 1) << c.name;
+  }
+  EXPECT_EQ(QueriesOfVariant("peliMirror_8u_C1R", "flip1", 1 << 20), 0);
+  EXPECT_EQ(QueriesOfVariant("peliMirror_8u_C4IR", "flip1", 1 << 18), 0);
+  EXPECT_EQ(QueriesOfVariant("peliTranspose_16s_C4R", "", 1 << 18), 0);
+  EXPECT_EQ(QueriesOfVariant("peliTranspose_32f_C1IR", "", 512), 0);  // a 512 x 512 buffer
+
+  // A small cache streams: the bytes stay the model's, with rows aligned
+  // for streamed stores and not.
+  gAnswerBytes = 600000;
+  const char* const flips[][2] = {{"peliMirror_8u_C4R", "flip0"}, {"peliMirror_8u_C4R", "flip1"},
+                                  {"peliMirror_16u_AC4R", "flip2"}, {"peliMirror_32s_C4R", "flip1"}};
+  for (const auto& f : flips) {
+    const peltest::Row row = peltest::FindRow(f[0], f[1]);
+    peltest::ForEachCpuLevel([&] {
+      for (int offset : {0, 4, 12}) peltest::RunRowOn(row, {Layout{601, 130, 4, 0, offset}, Layout{601, 130, 4, 16, 0}}, PeliSize{601, 130}, 3);
+    });
+  }
+  for (const char* name : {"peliTranspose_32f_C1R", "peliTranspose_32s_C4R"}) {
+    const peltest::Row row = peltest::FindRow(name);
+    const int c = std::string(name).find("C4") != std::string::npos ? 4 : 1;
+    peltest::ForEachCpuLevel([&] {
+      for (int offset : {0, 4}) {
+        peltest::RunRowOn(row, {Layout{400, 420 / c, c, 0, 0}, Layout{420 / c, 400, c, 0, offset}}, PeliSize{400, 420 / c}, 3);
+      }
+    });
+  }
+  EXPECT_GT(gQueries, 0);
+}
+
+}  // namespace
