@@ -17,6 +17,9 @@ PelStatus RunTwoImages(Op op, Elem e, int layout, const TwoImages& im, int scale
   if (AnyNull(im.src1, im.src2, im.dst)) return pelStatusNullPointer;
   if (im.width < 1 || im.height < 1) return pelStatusBadSize;
   if (op == kDiv) return RunDiv(e, layout, im, scale, hasMode, mode);
+  // From a left shift of 64 on only the sign of the exact value counts; the
+  // clamp keeps every later negation of the scale factor defined.
+  if (scale < -64) scale = -64;
   // No step is checked: zero and negative steps are used as given.
   if (e != Elem::k32f && scale > ZeroFillAbove(op, e)) {
     return FillImage(e, layout, im.dst, im.dstStep, im.width, im.height, false);

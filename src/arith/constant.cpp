@@ -130,6 +130,8 @@ PelStatus RunConstant(Op op, Elem e, int layout, const OneImage& im, const void*
     });
     if (zero) return pelStatusDivisionByZero;
   }
+  // As for two images: below -64 only the sign of the exact value counts.
+  if (s < -64) s = -64;
   alignas(64) uint8_t buffer[kBufferBytes];
   const Shortcut shortcut = VisitElem(e, [&](auto t) {
     using T = decltype(t);
