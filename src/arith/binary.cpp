@@ -33,10 +33,9 @@ PelStatus RunTwoImages(Op op, Elem e, int layout, const TwoImages& im, int scale
     const void* s2 = Row(im.src2, im.step2, py);
     void* d = Row(im.dst, im.dstStep, py);
     if (e == Elem::k32f) {
-      FloatBinaryRow(op, static_cast<const float*>(s1), static_cast<const float*>(s2),
-                     static_cast<float*>(d), rows.lanes, alpha);
+      FloatBinaryRow(op, {s1}, {s2}, static_cast<float*>(d), rows.lanes, alpha);
     } else {
-      IntBinaryRow(op, e, s1, s2, d, rows.lanes, scale, alpha);
+      IntBinaryRow(op, e, {s1}, {s2}, d, rows.lanes, scale, alpha);
     }
   }
   return pelStatusOk;

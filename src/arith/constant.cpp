@@ -1,7 +1,7 @@
 // AddC, SubC, MulC and DivC: the checks, the shortcuts a constant and scale
-// factor allow, and the row loop. The constant is laid out once as a row of
-// pixels in a small buffer, so that the two-image kernels serve as they are:
-// each image row goes through them in pieces of the buffer's length.
+// factor allow, and the row loop. The constant is laid out once as pixels in
+// a small buffer, and the two-image kernels take that buffer, repeated, as
+// one of their operands.
 #include "arith/constant.h"
 
 #include <cmath>
@@ -56,7 +56,7 @@ Shortcut Choose(Op op, const T* v, int computed, int s) {
 }
 
 // The buffer: 3 KiB, a whole number of pixels of every layout and of vectors
-// of every width.
+// of every width, so that it repeats along a row of any length.
 constexpr size_t kBufferBytes = 3072;
 
 template <class T>
@@ -83,33 +83,24 @@ void LayOut(Op op, const T* v, int layout, int s, void* buffer) {
 
 PelStatus ConstantRows(Op op, Elem e, int layout, const OneImage& im, const void* buffer,
                        int s) {
-  const size_t bytes = BytesOf(e);
-  const bool scales = op == kDiv && e != Elem::k32f;
-  const size_t piece = kBufferBytes / (op == kDiv ? sizeof(float) : bytes);
   const bool alpha = layout == kAC4;
-  const Rows rows = RowsOf(uint64_t(im.width), uint64_t(im.height), LanesOf(layout), bytes, true,
-                           {im.srcStep, im.dstStep});
+  const Rows rows = RowsOf(uint64_t(im.width), uint64_t(im.height), LanesOf(layout), BytesOf(e),
+                           true, {im.srcStep, im.dstStep});
+  const Operand value{buffer, kBufferBytes / (op == kDiv ? sizeof(float) : BytesOf(e))};
   for (uint64_t y = 0; y < rows.count; ++y) {
-    const auto* src = static_cast<const uint8_t*>(Row(im.src, im.srcStep, ptrdiff_t(y)));
-    auto* dst = static_cast<uint8_t*>(Row(im.dst, im.dstStep, ptrdiff_t(y)));
-    for (uint64_t at = 0; at < rows.lanes; at += piece) {
-      const size_t n = rows.lanes - at < piece ? size_t(rows.lanes - at) : piece;
-      const void* sp = src + at * bytes;
-      void* dp = dst + at * bytes;
-      if (scales) {
-        IntScaleRow(e, sp, static_cast<const float*>(buffer), dp, n, alpha);
-      } else if (e == Elem::k32f) {
-        const auto* s32 = static_cast<const float*>(sp);
-        const auto* b32 = static_cast<const float*>(buffer);
-        auto* d32 = static_cast<float*>(dp);
-        // SubC: src - value, the value being Sub's first (subtracted) image.
-        if (op == kSub) FloatBinaryRow(kSub, b32, s32, d32, n, alpha);
-        else FloatBinaryRow(op == kAdd ? kAdd : kMul, s32, b32, d32, n, alpha);
-      } else if (op == kSub) {
-        IntBinaryRow(kSub, e, buffer, sp, dp, n, s, alpha);
-      } else {
-        IntBinaryRow(op, e, sp, buffer, dp, n, s, alpha);
-      }
+    const Operand src{Row(im.src, im.srcStep, ptrdiff_t(y))};
+    void* dst = Row(im.dst, im.dstStep, ptrdiff_t(y));
+    // SubC is src - value: Sub subtracts its first operand from its second.
+    if (op == kDiv && e != Elem::k32f) {
+      IntScaleRow(e, src.p, value, dst, rows.lanes, alpha);
+    } else if (e == Elem::k32f) {
+      auto* d32 = static_cast<float*>(dst);
+      if (op == kSub) FloatBinaryRow(kSub, value, src, d32, rows.lanes, alpha);
+      else FloatBinaryRow(op == kAdd ? kAdd : kMul, src, value, d32, rows.lanes, alpha);
+    } else if (op == kSub) {
+      IntBinaryRow(kSub, e, value, src, dst, rows.lanes, s, alpha);
+    } else {
+      IntBinaryRow(op, e, src, value, dst, rows.lanes, s, alpha);
     }
   }
   return pelStatusOk;

@@ -63,13 +63,36 @@ HWY_INLINE VF RecipDiv32f(VF n, VF d) {
   return hn::Mul(hn::Add(r0, u), n);
 }
 
+// The same for divisors whose magnitude a lies in [2^-126, 2^126), the
+// common case, where the estimate has none of its range cases and is not 0.
+HWY_INLINE VF RecipDivOrdinary(VF n, VF d, hn::Vec<DI> a) {
+  const DF df;
+  const DI di;
+  const auto two = hn::Set(df, 2.0f);
+  const auto af = hn::BitCast(df, a);
+  auto y = hn::BitCast(df, hn::Sub(hn::Set(di, 0x7EF311C3), a));
+  for (int k = 0; k < 2; ++k) y = hn::Mul(y, hn::Sub(two, hn::Mul(af, y)));
+  const auto r0 = hn::BitCast(df, hn::Or(hn::BitCast(di, y), hn::Xor(hn::BitCast(di, d), a)));
+  const auto e = hn::Sub(hn::Set(df, 1.0f), hn::Mul(d, r0));
+  const auto u = hn::Mul(hn::Add(hn::Mul(e, r0), r0), e);
+  return hn::Mul(hn::Add(r0, u), n);
+}
+
+
+// The 8u quotient for positive normal divisors (integers times powers of
+// two), where the estimate needs none of its range cases. Its last step,
+// q1 + (e*e)*q1, is left out: with 17 correct bits in r0, |e| < 7e-6, so
+// (e*e)*q1 is below a quarter of q1's last place and adding it rounds back
+// to q1 (n = 0 gives 0 either way).
 HWY_INLINE VF RecipQuotient8u(VF n, VF d) {
   const DF df;
-  const auto r0 = RecipEstimate(d);
+  const DI di;
+  const auto two = hn::Set(df, 2.0f);
+  auto r0 = hn::BitCast(df, hn::Sub(hn::Set(di, 0x7EF311C3), hn::BitCast(di, d)));
+  for (int k = 0; k < 2; ++k) r0 = hn::Mul(r0, hn::Sub(two, hn::Mul(d, r0)));
   const auto e = hn::Sub(hn::Set(df, 1.0f), hn::Mul(d, r0));
   const auto q0 = hn::Mul(n, r0);
-  const auto q1 = hn::Add(q0, hn::Mul(e, q0));
-  return hn::Add(q1, hn::Mul(hn::Mul(e, e), q1));
+  return hn::Add(q0, hn::Mul(e, q0));
 }
 
 // The lanes of the groups of eight that hold a zero divisor, for a block of
@@ -99,58 +122,89 @@ HWY_INLINE void GroupsWithZero(const MF* zero, MF* slow) {
 // ---- 32f --------------------------------------------------------------------------------
 
 template <Op op>
-size_t FloatBinaryLoop(const float* s1, const float* s2, float* d, size_t n, bool alpha) {
+size_t FloatBinaryLoop(const float* s1, const float* s2, Periods p, Cursor& cursor, float* d,
+                       size_t n, bool alpha) {
   const DF df;
   const auto colour = ColourLanes(df);
+  Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) {
-    const auto a = hn::LoadU(df, s1 + i);
-    const auto b = hn::LoadU(df, s2 + i);
+  for (; i + kLanes <= n; i += kLanes, at.Advance(kLanes, p.a, p.b)) {
+    const auto a = hn::LoadU(df, s1 + at.a);
+    const auto b = hn::LoadU(df, s2 + at.b);
     const auto v = op == kAdd ? hn::Add(a, b) : op == kSub ? hn::Sub(b, a) : hn::Mul(a, b);
     StoreLanes(df, v, d + i, alpha, colour);
   }
+  cursor = at;
   return i;
 }
 
-size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool alpha,
-                    bool* marked) {
+// One block of whole groups of eight whose divisors are not all ordinary:
+// groups with a zero divide exactly and give the zero-divisor values.
+HWY_INLINE void FloatDivBlock(const VF* dv, const VF* nv, float* d, bool alpha, MF colour,
+                              bool* marked) {
   const DF df;
-  const auto colour = ColourLanes(df);
   const auto one = hn::Set(df, 1.0f);
   const auto zeroV = hn::Zero(df);
   const auto inf = hn::Set(df, std::numeric_limits<float>::infinity());
   const auto qnan = hn::BitCast(df, hn::Set(DI(), static_cast<int32_t>(scalar::kQuietNaN)));
-  constexpr size_t kBlock = kGroupVectors * kLanes;
-  size_t i = 0;
-  for (; i + kBlock <= n; i += kBlock) {
-    VF dv[kGroupVectors], nv[kGroupVectors];
-    MF zero[kGroupVectors];
-    bool any = false;
+  MF zero[kGroupVectors];
+  bool any = false;
+  for (size_t k = 0; k < kGroupVectors; ++k) {
+    zero[k] = hn::Eq(dv[k], zeroV);
+    any = any || !hn::AllFalse(df, zero[k]);
+  }
+  if (!any) {
     for (size_t k = 0; k < kGroupVectors; ++k) {
+      StoreLanes(df, RecipDiv32f(nv[k], dv[k]), d + k * kLanes, alpha, colour);
+    }
+    return;
+  }
+  *marked = true;
+  MF slow[kGroupVectors];
+  GroupsWithZero(zero, slow);
+  for (size_t k = 0; k < kGroupVectors; ++k) {
+    const auto exact = hn::Div(nv[k], hn::IfThenElse(zero[k], one, dv[k]));
+    const auto byZero = hn::IfThenElse(
+        hn::Gt(nv[k], zeroV), inf, hn::IfThenElse(hn::Lt(nv[k], zeroV), hn::Neg(inf), qnan));
+    const auto special = hn::IfThenElse(zero[k], byZero, qnan);
+    const auto bad = hn::Or(zero[k], hn::IsNaN(dv[k]));
+    const auto v = hn::IfThenElse(slow[k], hn::IfThenElse(bad, special, exact),
+                                  RecipDiv32f(nv[k], dv[k]));
+    StoreLanes(df, v, d + k * kLanes, alpha, colour);
+  }
+}
+
+// Four vectors a step; when every divisor is ordinary (the common case) all
+// four take the short path, else each block of whole groups goes alone.
+size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool alpha,
+                    bool* marked) {
+  const DF df;
+  const DI di;
+  const hn::RebindToUnsigned<DF> du;
+  const auto colour = ColourLanes(df);
+  const auto one = hn::Set(df, 1.0f);
+  constexpr size_t kV = 4;  // a multiple of kGroupVectors
+  size_t i = 0;
+  for (; i + kV * kLanes <= n; i += kV * kLanes) {
+    VF dv[kV], nv[kV];
+    hn::Vec<DI> a[kV];
+    auto ordinary = hn::Set(du, 0u);
+    for (size_t k = 0; k < kV; ++k) {
       dv[k] = hn::LoadU(df, s1 + i + k * kLanes);
       if (alpha) dv[k] = hn::IfThenElse(colour, dv[k], one);
       nv[k] = hn::LoadU(df, s2 + i + k * kLanes);
-      zero[k] = hn::Eq(dv[k], zeroV);
-      any = any || !hn::AllFalse(df, zero[k]);
+      a[k] = hn::And(hn::BitCast(di, dv[k]), hn::Set(di, 0x7FFFFFFF));
+      // Magnitudes in [2^-126, 2^126): a - 2^-126 below 0x7E000000 unsigned.
+      ordinary = hn::Max(ordinary, hn::BitCast(du, hn::Sub(a[k], hn::Set(di, 0x00800000))));
     }
-    if (!any) {
-      for (size_t k = 0; k < kGroupVectors; ++k) {
-        StoreLanes(df, RecipDiv32f(nv[k], dv[k]), d + i + k * kLanes, alpha, colour);
+    if (HWY_LIKELY(hn::AllTrue(du, hn::Lt(ordinary, hn::Set(du, 0x7E000000u))))) {
+      for (size_t k = 0; k < kV; ++k) {
+        StoreLanes(df, RecipDivOrdinary(nv[k], dv[k], a[k]), d + i + k * kLanes, alpha, colour);
       }
       continue;
     }
-    *marked = true;
-    MF slow[kGroupVectors];
-    GroupsWithZero(zero, slow);
-    for (size_t k = 0; k < kGroupVectors; ++k) {
-      const auto exact = hn::Div(nv[k], hn::IfThenElse(zero[k], one, dv[k]));
-      const auto byZero = hn::IfThenElse(
-          hn::Gt(nv[k], zeroV), inf, hn::IfThenElse(hn::Lt(nv[k], zeroV), hn::Neg(inf), qnan));
-      const auto special = hn::IfThenElse(zero[k], byZero, qnan);
-      const auto bad = hn::Or(zero[k], hn::IsNaN(dv[k]));
-      const auto v = hn::IfThenElse(slow[k], hn::IfThenElse(bad, special, exact),
-                                    RecipDiv32f(nv[k], dv[k]));
-      StoreLanes(df, v, d + i + k * kLanes, alpha, colour);
+    for (size_t k = 0; k < kV; k += kGroupVectors) {
+      FloatDivBlock(dv + k, nv + k, d + i + k * kLanes, alpha, colour, marked);
     }
   }
   return i;
@@ -158,91 +212,162 @@ size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool a
 
 // ---- Integers through single precision ----------------------------------------------
 
-// A clamped float quotient to int32 by rounding mode.
-HWY_INLINE hn::Vec<DI> RoundByMode(VF q, VF lo, VF hi, int mode) {
+// A float quotient to int32 by rounding mode. The caller keeps quotients
+// within the int32 range (narrowing then saturates), so the conversion needs
+// none of Highway's fix-ups for out-of-range values.
+HWY_INLINE hn::Vec<DI> RoundByMode(VF q, int mode) {
   const DF df;
   const DI di;
-  q = hn::Min(hn::Max(q, lo), hi);
-  if (mode == 1) return hn::NearestInt(q);
+  if (mode == 1) {
+#if HWY_TARGET <= HWY_AVX3
+    return hn::Vec<DI>{_mm512_cvtps_epi32(q.raw)};
+#elif HWY_TARGET == HWY_AVX2
+    return hn::Vec<DI>{_mm256_cvtps_epi32(q.raw)};
+#else
+    return hn::Vec<DI>{_mm_cvtps_epi32(q.raw)};
+#endif
+  }
   if (mode == 0) return hn::ConvertTo(di, q);
   return hn::ConvertTo(di, hn::Add(q, hn::CopySign(hn::Set(df, 0.5f), q)));
 }
 
+// Four vectors of int32 to 4 x kLanes elements of T with saturation, in
+// order: the packing instructions work within 128-bit blocks, and one
+// permutation puts the blocks back in order.
 template <class T>
+HWY_INLINE void Pack4(const hn::Vec<DI>* r, T* d, bool alpha) {
+  const hn::ScalableTag<T> dt;
+  const auto colour = ColourLanes(dt);
+  constexpr bool kU16 = std::is_same_v<T, uint16_t>;
+#if HWY_TARGET <= HWY_AVX3
+  auto pack = [](__m512i a, __m512i b) { return kU16 ? _mm512_packus_epi32(a, b) : _mm512_packs_epi32(a, b); };
+  const __m512i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
+  if constexpr (sizeof(T) == 1) {
+    const __m512i order = _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi32(order, _mm512_packus_epi16(lo, hi))}, d, alpha, colour);
+  } else {
+    const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi64(order, lo)}, d, alpha, colour);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi64(order, hi)}, d + 2 * kLanes, alpha, colour);
+  }
+#elif HWY_TARGET == HWY_AVX2
+  auto pack = [](__m256i a, __m256i b) { return kU16 ? _mm256_packus_epi32(a, b) : _mm256_packs_epi32(a, b); };
+  const __m256i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
+  if constexpr (sizeof(T) == 1) {
+    const __m256i order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permutevar8x32_epi32(_mm256_packus_epi16(lo, hi), order)}, d, alpha, colour);
+  } else {
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permute4x64_epi64(lo, 0xD8)}, d, alpha, colour);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permute4x64_epi64(hi, 0xD8)}, d + 2 * kLanes, alpha, colour);
+  }
+#else
+  auto pack = [](__m128i a, __m128i b) { return kU16 ? _mm_packus_epi32(a, b) : _mm_packs_epi32(a, b); };
+  const __m128i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
+  if constexpr (sizeof(T) == 1) {
+    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm_packus_epi16(lo, hi)}, d, alpha, colour);
+  } else {
+    StoreLanes(dt, hn::Vec<decltype(dt)>{lo}, d, alpha, colour);
+    StoreLanes(dt, hn::Vec<decltype(dt)>{hi}, d + 2 * kLanes, alpha, colour);
+  }
+#endif
+}
+
+// Integer division, four vectors of lanes a step. In 8u rows the lanes
+// divide through the reciprocal unless their group of eight holds a zero
+// divisor; the other types divide exactly. kNearest: rounding mode 1, the
+// mode of Div.
+template <class T, bool kNearest>
 size_t IntDivLoop(const T* s1, const T* s2, T* d, size_t n, int s, int mode, bool alpha,
                   bool* marked) {
   const DF df;
   const DI di;
   const hn::Rebind<T, DF> dn;
   constexpr bool kGroups = std::is_same_v<T, uint8_t>;
-  constexpr size_t kVectors = kGroups ? kGroupVectors : 1;
-  constexpr size_t kBlock = kVectors * kLanes;
+  constexpr size_t kV = 4;  // a multiple of kGroupVectors
   const auto colourF = ColourLanes(df);
-  const auto colourN = ColourLanes(dn);
   const auto one = hn::Set(df, 1.0f);
   const auto zeroF = hn::Zero(df);
   const scalar::DivScale scale(s);
+  const bool scaled = s != 0;
   const auto numScale = hn::Set(df, scale.dividend);
   const auto denScale = hn::Set(df, scale.divisor);
+  // With s >= 0 every quotient lies within the type's range but for a half,
+  // which narrowing saturates; a shifted dividend can exceed any range.
+  const bool clamp = s < 0;
   const auto lo = hn::Set(df, static_cast<float>(hwy::LimitsMin<T>()));
   const auto hi = hn::Set(df, static_cast<float>(hwy::LimitsMax<T>()));
   const auto maxI = hn::Set(di, static_cast<int32_t>(hwy::LimitsMax<T>()));
   const auto minI = hn::Set(di, static_cast<int32_t>(hwy::LimitsMin<T>()));
+  auto finish = [&](VF q) {
+    if (clamp) q = hn::Min(hn::Max(q, lo), hi);
+    return RoundByMode(q, kNearest ? 1 : mode);
+  };
+  // A local flag: a store through the pointer would be reloaded after every
+  // store of 8u results, which may alias it.
+  bool met = false;
   size_t i = 0;
-  for (; i + kBlock <= n; i += kBlock) {
-    hn::Vec<DI> nI[kVectors];
-    VF num[kVectors], den[kVectors];
-    MF zero[kVectors];
-    bool any = false;
-    for (size_t k = 0; k < kVectors; ++k) {
-      auto dF = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s1 + i + k * kLanes)));
-      if (alpha) dF = hn::IfThenElse(colourF, dF, one);
+  for (; i + kV * kLanes <= n; i += kV * kLanes) {
+    hn::Vec<DI> nI[kV], r[kV];
+    VF num[kV], den[kV];
+    MF zero[kV];
+    for (size_t k = 0; k < kV; ++k) {
+      den[k] = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s1 + i + k * kLanes)));
+      if (alpha) den[k] = hn::IfThenElse(colourF, den[k], one);
       nI[k] = hn::PromoteTo(di, hn::LoadU(dn, s2 + i + k * kLanes));
-      zero[k] = hn::Eq(dF, zeroF);
-      any = any || !hn::AllFalse(df, zero[k]);
-      num[k] = hn::Mul(hn::ConvertTo(df, nI[k]), numScale);
-      den[k] = hn::Mul(dF, denScale);
-    }
-    MF slow[kVectors];
-    if constexpr (kGroups) {
-      if (any) GroupsWithZero(zero, slow);
-    }
-    for (size_t k = 0; k < kVectors; ++k) {
-      VF q;
-      if constexpr (kGroups) {
-        q = RecipQuotient8u(num[k], den[k]);
-        if (any) q = hn::IfThenElse(slow[k], hn::Div(num[k], hn::IfThenElse(zero[k], one, den[k])), q);
-      } else {
-        q = hn::Div(num[k], hn::IfThenElse(zero[k], one, den[k]));
+      num[k] = hn::ConvertTo(df, nI[k]);
+      zero[k] = hn::Eq(den[k], zeroF);
+      if (scaled) {
+        num[k] = hn::Mul(num[k], numScale);
+        den[k] = hn::Mul(den[k], denScale);
       }
-      auto r = RoundByMode(q, lo, hi, mode);
-      if (any) {
+    }
+    // Blocks of whole groups decide alone: a zero divisor is rare in most
+    // images, and one block's slow path leaves the others fast.
+    for (size_t k = 0; k < kV; k += kGroupVectors) {
+      MF anyZero = zero[k];
+      if (kGroupVectors == 2) anyZero = hn::Or(anyZero, zero[k + 1]);
+      if (HWY_LIKELY(hn::AllFalse(df, anyZero))) {
+        for (size_t j = k; j < k + kGroupVectors; ++j) {
+          r[j] = finish(kGroups ? RecipQuotient8u(num[j], den[j]) : hn::Div(num[j], den[j]));
+        }
+        continue;
+      }
+      met = true;
+      MF slow[kGroupVectors];
+      if constexpr (kGroups) GroupsWithZero(zero + k, slow);
+      for (size_t j = k; j < k + kGroupVectors; ++j) {
+        den[j] = hn::IfThenElse(zero[j], one, den[j]);
+        VF q = hn::Div(num[j], den[j]);
+        if constexpr (kGroups) q = hn::IfThenElse(slow[j - k], q, RecipQuotient8u(num[j], den[j]));
         const auto byZero = hn::IfThenElse(
-            hn::Gt(nI[k], hn::Zero(di)), maxI,
-            hn::IfThenElse(hn::Lt(nI[k], hn::Zero(di)), minI, hn::Zero(di)));
-        r = hn::IfThenElse(hn::RebindMask(di, zero[k]), byZero, r);
+            hn::Gt(nI[j], hn::Zero(di)), maxI,
+            hn::IfThenElse(hn::Lt(nI[j], hn::Zero(di)), minI, hn::Zero(di)));
+        r[j] = hn::IfThenElse(hn::RebindMask(di, zero[j]), byZero, finish(q));
       }
-      StoreLanes(dn, hn::DemoteTo(dn, r), d + i + k * kLanes, alpha, colourN);
     }
-    *marked = *marked || any;
+    Pack4<T>(r, d + i, alpha);
   }
+  *marked = met;
   return i;
 }
 
 template <class T>
-size_t IntScaleLoop(const T* src, const float* f, T* d, size_t n, bool alpha) {
+size_t IntScaleLoop(const T* src, const float* f, size_t period, Cursor& cursor, T* d, size_t n,
+                    bool alpha) {
   const DF df;
   const DI di;
   const hn::Rebind<T, DF> dn;
   const auto colour = ColourLanes(dn);
   const auto lo = hn::Set(df, static_cast<float>(hwy::LimitsMin<T>()));
   const auto hi = hn::Set(df, static_cast<float>(hwy::LimitsMax<T>()));
+  Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) {
+  for (; i + kLanes <= n; i += kLanes, at.Advance(kLanes, 0, period)) {
     const auto x = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, src + i)));
-    const auto r = RoundByMode(hn::Mul(x, hn::LoadU(df, f + i)), lo, hi, 1);
+    const auto r = RoundByMode(hn::Min(hn::Max(hn::Mul(x, hn::LoadU(df, f + at.b)), lo), hi), 1);
     StoreLanes(dn, hn::DemoteTo(dn, r), d + i, alpha, colour);
   }
+  cursor = at;
   return i;
 }
 
@@ -256,12 +381,15 @@ size_t IntScaleLoop(const T* src, const float* f, T* d, size_t n, bool alpha) {
 #define PEL_VECTOR(expr) (expr)
 #endif
 
-void FloatBinaryRowTarget(Op op, const float* s1, const float* s2, float* d, size_t n,
-                          bool alpha) {
-  const size_t done = op == kAdd   ? PEL_VECTOR(FloatBinaryLoop<kAdd>(s1, s2, d, n, alpha))
-                      : op == kSub ? PEL_VECTOR(FloatBinaryLoop<kSub>(s1, s2, d, n, alpha))
-                                   : PEL_VECTOR(FloatBinaryLoop<kMul>(s1, s2, d, n, alpha));
-  scalar::FloatBinaryRow(op, s1 + done, s2 + done, d + done, n - done, alpha);
+void FloatBinaryRowTarget(Op op, Operand src1, Operand src2, float* d, size_t n, bool alpha) {
+  const auto* s1 = static_cast<const float*>(src1.p);
+  const auto* s2 = static_cast<const float*>(src2.p);
+  const Periods p{src1.period, src2.period};
+  Cursor at;
+  const size_t done = op == kAdd   ? PEL_VECTOR(FloatBinaryLoop<kAdd>(s1, s2, p, at, d, n, alpha))
+                      : op == kSub ? PEL_VECTOR(FloatBinaryLoop<kSub>(s1, s2, p, at, d, n, alpha))
+                                   : PEL_VECTOR(FloatBinaryLoop<kMul>(s1, s2, p, at, d, n, alpha));
+  scalar::FloatBinaryRow(op, s1 + at.a, p.a, s2 + at.b, p.b, d + done, n - done, alpha);
 }
 
 bool FloatDivRowTarget(const float* s1, const float* s2, float* d, size_t n, bool alpha) {
@@ -280,7 +408,9 @@ bool IntDivRowTarget(Elem e, const void* src1, const void* src2, void* dst, size
       const T* s2 = static_cast<const T*>(src2);
       T* d = static_cast<T*>(dst);
       bool marked = false;
-      const size_t done = PEL_VECTOR(IntDivLoop<T>(s1, s2, d, n, s, mode, alpha, &marked));
+      const size_t done =
+          mode == 1 ? PEL_VECTOR((IntDivLoop<T, true>(s1, s2, d, n, s, mode, alpha, &marked)))
+                    : PEL_VECTOR((IntDivLoop<T, false>(s1, s2, d, n, s, mode, alpha, &marked)));
       return scalar::IntDivRow<T>(s1 + done, s2 + done, d + done, n - done, s, mode, alpha) ||
              marked;
     }
@@ -288,14 +418,16 @@ bool IntDivRowTarget(Elem e, const void* src1, const void* src2, void* dst, size
   });
 }
 
-void IntScaleRowTarget(Elem e, const void* src, const float* f, void* dst, size_t n, bool alpha) {
+void IntScaleRowTarget(Elem e, const void* src, Operand factor, void* dst, size_t n, bool alpha) {
   VisitElem(e, [&](auto t) {
     using T = decltype(t);
     if constexpr (std::is_integral_v<T>) {
       const T* s = static_cast<const T*>(src);
+      const auto* f = static_cast<const float*>(factor.p);
       T* d = static_cast<T*>(dst);
-      const size_t done = PEL_VECTOR(IntScaleLoop<T>(s, f, d, n, alpha));
-      scalar::IntScaleRow<T>(s + done, f + done, d + done, n - done, alpha);
+      Cursor at;
+      const size_t done = PEL_VECTOR(IntScaleLoop<T>(s, f, factor.period, at, d, n, alpha));
+      scalar::IntScaleRow<T>(s + done, f + at.b, factor.period, d + done, n - done, alpha);
     }
   });
 }
@@ -341,8 +473,7 @@ HWY_EXPORT(IntScaleRowTarget);
 HWY_EXPORT(SqrtRowTarget);
 HWY_EXPORT(AbsRowTarget);
 
-void FloatBinaryRow(Op op, const float* src1, const float* src2, float* dst, size_t lanes,
-                    bool alpha) {
+void FloatBinaryRow(Op op, Operand src1, Operand src2, float* dst, size_t lanes, bool alpha) {
   HWY_DYNAMIC_DISPATCH(FloatBinaryRowTarget)(op, src1, src2, dst, lanes, alpha);
 }
 bool FloatDivRow(const float* src1, const float* src2, float* dst, size_t lanes, bool alpha) {
@@ -352,8 +483,7 @@ bool IntDivRow(Elem e, const void* src1, const void* src2, void* dst, size_t lan
                int mode, bool alpha) {
   return HWY_DYNAMIC_DISPATCH(IntDivRowTarget)(e, src1, src2, dst, lanes, s, mode, alpha);
 }
-void IntScaleRow(Elem e, const void* src, const float* factor, void* dst, size_t lanes,
-                 bool alpha) {
+void IntScaleRow(Elem e, const void* src, Operand factor, void* dst, size_t lanes, bool alpha) {
   HWY_DYNAMIC_DISPATCH(IntScaleRowTarget)(e, src, factor, dst, lanes, alpha);
 }
 bool SqrtRow(const float* src, float* dst, size_t lanes) {

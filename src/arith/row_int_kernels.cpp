@@ -38,31 +38,36 @@ struct Wide<int16_t> { using type = int32_t; };
 
 // Scale factor 0, Add and Sub: the saturating instructions are the rule.
 template <Op op, class T>
-size_t SaturatingLoop(const T* s1, const T* s2, T* d, size_t n, bool alpha) {
+size_t SaturatingLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
+                      bool alpha) {
   const hn::ScalableTag<T> dt;
   const size_t N = hn::Lanes(dt);
   const auto colour = ColourLanes(dt);
+  Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + N <= n; i += N) {
-    const auto a = hn::LoadU(dt, s1 + i);
-    const auto b = hn::LoadU(dt, s2 + i);
+  for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
+    const auto a = hn::LoadU(dt, s1 + at.a);
+    const auto b = hn::LoadU(dt, s2 + at.b);
     StoreLanes(dt, op == kAdd ? hn::SaturatedAdd(a, b) : hn::SaturatedSub(b, a), d + i, alpha,
                colour);
   }
+  cursor = at;
   return i;
 }
 
 // Scale factor 0, 16-bit Mul: the low half is the result when the high half
 // only extends its sign; otherwise the product saturates by its sign.
 template <class T>
-size_t Mul16Loop(const T* s1, const T* s2, T* d, size_t n, bool alpha) {
+size_t Mul16Loop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
+                 bool alpha) {
   const hn::ScalableTag<T> dt;
   const size_t N = hn::Lanes(dt);
   const auto colour = ColourLanes(dt);
+  Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + N <= n; i += N) {
-    const auto a = hn::LoadU(dt, s1 + i);
-    const auto b = hn::LoadU(dt, s2 + i);
+  for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
+    const auto a = hn::LoadU(dt, s1 + at.a);
+    const auto b = hn::LoadU(dt, s2 + at.b);
     const auto lo = hn::Mul(a, b);
     const auto hi = hn::MulHigh(a, b);
     hn::Vec<decltype(dt)> v;
@@ -74,6 +79,7 @@ size_t Mul16Loop(const T* s1, const T* s2, T* d, size_t n, bool alpha) {
     }
     StoreLanes(dt, v, d + i, alpha, colour);
   }
+  cursor = at;
   return i;
 }
 
@@ -112,7 +118,8 @@ HWY_INLINE hn::Vec<DN> Narrow(DW dw, DN dn, VW r) {
 // T's range (which saturates the same) and shifted left; from a shift of
 // T's width on only the sign of v counts, so v is clamped to -1..1.
 template <Op op, class T, bool kRight>
-size_t WideLoop(const T* s1, const T* s2, T* d, size_t n, int s, bool alpha) {
+size_t WideLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n, int s,
+                bool alpha) {
   using W = typename Wide<T>::type;
   const hn::ScalableTag<W> dw;
   const hn::Rebind<T, decltype(dw)> dn;
@@ -126,9 +133,10 @@ size_t WideLoop(const T* s1, const T* s2, T* d, size_t n, int s, bool alpha) {
   const auto vlo = hn::Set(dw, lo);
   const auto vhi = hn::Set(dw, hi);
   const auto below = hn::Set(dw, kRight ? static_cast<W>((W{1} << (s - 1)) - 1) : W{0});
+  Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + N <= n; i += N) {
-    const auto v = WideValue<op>(dw, dn, s1 + i, s2 + i);
+  for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
+    const auto v = WideValue<op>(dw, dn, s1 + at.a, s2 + at.b);
     hn::Vec<decltype(dw)> r;
     if constexpr (kRight) {
       const auto q = hn::ShiftRightSame(v, s - 1);
@@ -141,39 +149,44 @@ size_t WideLoop(const T* s1, const T* s2, T* d, size_t n, int s, bool alpha) {
     }
     StoreLanes(dn, Narrow<T>(dw, dn, r), d + i, alpha, colour);
   }
+  cursor = at;
   return i;
 }
 
 template <Op op, class T>
-size_t IntBinaryLoop(const T* s1, const T* s2, T* d, size_t n, int s, bool alpha) {
+size_t IntBinaryLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
+                     int s, bool alpha) {
   if constexpr (op != kMul) {
-    if (s == 0) return SaturatingLoop<op, T>(s1, s2, d, n, alpha);
+    if (s == 0) return SaturatingLoop<op, T>(s1, s2, p, cursor, d, n, alpha);
   } else if constexpr (sizeof(T) == 2) {
-    if (s == 0) return Mul16Loop<T>(s1, s2, d, n, alpha);
+    if (s == 0) return Mul16Loop<T>(s1, s2, p, cursor, d, n, alpha);
   }
-  return s > 0 ? WideLoop<op, T, true>(s1, s2, d, n, s, alpha)
-               : WideLoop<op, T, false>(s1, s2, d, n, s, alpha);
+  return s > 0 ? WideLoop<op, T, true>(s1, s2, p, cursor, d, n, s, alpha)
+               : WideLoop<op, T, false>(s1, s2, p, cursor, d, n, s, alpha);
 }
 
 #endif
 
-void IntBinaryRowTarget(Op op, Elem e, const void* src1, const void* src2, void* dst, size_t n,
-                        int s, bool alpha) {
+void IntBinaryRowTarget(Op op, Elem e, Operand src1, Operand src2, void* dst, size_t n, int s,
+                        bool alpha) {
   VisitElem(e, [&](auto t) {
     using T = decltype(t);
     if constexpr (std::is_integral_v<T>) {
-      const T* s1 = static_cast<const T*>(src1);
-      const T* s2 = static_cast<const T*>(src2);
+      const T* s1 = static_cast<const T*>(src1.p);
+      const T* s2 = static_cast<const T*>(src2.p);
+      const Periods p{src1.period, src2.period};
       T* d = static_cast<T*>(dst);
+      Cursor at;
       size_t done = 0;
 #if HWY_TARGET != HWY_EMU128 && HWY_TARGET != HWY_SCALAR
       switch (op) {
-        case kAdd: done = IntBinaryLoop<kAdd, T>(s1, s2, d, n, s, alpha); break;
-        case kSub: done = IntBinaryLoop<kSub, T>(s1, s2, d, n, s, alpha); break;
-        default: done = IntBinaryLoop<kMul, T>(s1, s2, d, n, s, alpha); break;
+        case kAdd: done = IntBinaryLoop<kAdd, T>(s1, s2, p, at, d, n, s, alpha); break;
+        case kSub: done = IntBinaryLoop<kSub, T>(s1, s2, p, at, d, n, s, alpha); break;
+        default: done = IntBinaryLoop<kMul, T>(s1, s2, p, at, d, n, s, alpha); break;
       }
 #endif
-      scalar::IntBinaryRow<T>(op, s1 + done, s2 + done, d + done, n - done, s, alpha);
+      // The rest lies within one period of a repeating source.
+      scalar::IntBinaryRow<T>(op, s1 + at.a, p.a, s2 + at.b, p.b, d + done, n - done, s, alpha);
     }
   });
 }
@@ -186,8 +199,8 @@ namespace pel::arith {
 
 HWY_EXPORT(IntBinaryRowTarget);
 
-void IntBinaryRow(Op op, Elem e, const void* src1, const void* src2, void* dst, size_t lanes,
-                  int s, bool alpha) {
+void IntBinaryRow(Op op, Elem e, Operand src1, Operand src2, void* dst, size_t lanes, int s,
+                  bool alpha) {
   HWY_DYNAMIC_DISPATCH(IntBinaryRowTarget)(op, e, src1, src2, dst, lanes, s, alpha);
 }
 

@@ -39,6 +39,9 @@ inline uint32_t BitsOf(float f) {
 inline constexpr uint32_t kQuietNaN = 0x7FC00000;     // the quotient of 0 by 0
 inline constexpr uint32_t kDefaultNaN = 0xFFC00000;   // what x86 makes of sqrt(-1)
 
+// Lane j of an operand that repeats every `period` lanes (0: never).
+inline size_t At(size_t j, size_t period) { return period ? j % period : j; }
+
 // Lane j of a row is the alpha lane of an AC4 pixel.
 inline bool AlphaLane(bool alpha, size_t j) { return alpha && (j & 3) == 3; }
 
@@ -166,17 +169,19 @@ T ZeroDivisorInt(T n) {
 
 // ---- Rows ---------------------------------------------------------------------------
 
+// p1, p2: the periods of the sources (0: none).
 template <class T>
-void IntBinaryRow(Op op, const T* s1, const T* s2, T* d, size_t n, int s, bool alpha) {
+void IntBinaryRow(Op op, const T* s1, size_t p1, const T* s2, size_t p2, T* d, size_t n, int s,
+                  bool alpha) {
   for (size_t j = 0; j < n; ++j) {
-    if (!AlphaLane(alpha, j)) d[j] = IntBinary<T>(op, s1[j], s2[j], s);
+    if (!AlphaLane(alpha, j)) d[j] = IntBinary<T>(op, s1[At(j, p1)], s2[At(j, p2)], s);
   }
 }
 
-inline void FloatBinaryRow(Op op, const float* s1, const float* s2, float* d, size_t n,
-                           bool alpha) {
+inline void FloatBinaryRow(Op op, const float* s1, size_t p1, const float* s2, size_t p2,
+                           float* d, size_t n, bool alpha) {
   for (size_t j = 0; j < n; ++j) {
-    if (!AlphaLane(alpha, j)) d[j] = FloatBinary(op, s1[j], s2[j]);
+    if (!AlphaLane(alpha, j)) d[j] = FloatBinary(op, s1[At(j, p1)], s2[At(j, p2)]);
   }
 }
 
@@ -247,9 +252,11 @@ bool IntDivRow(const T* s1, const T* s2, T* d, size_t n, int s, int mode, bool a
 
 // Integer DivC: src x f in single precision, to nearest even, saturated.
 template <class T>
-void IntScaleRow(const T* src, const float* f, T* d, size_t n, bool alpha) {
+void IntScaleRow(const T* src, const float* f, size_t period, T* d, size_t n, bool alpha) {
   for (size_t j = 0; j < n; ++j) {
-    if (!AlphaLane(alpha, j)) d[j] = RoundQuotient<T>(static_cast<float>(src[j]) * f[j], 1);
+    if (!AlphaLane(alpha, j)) {
+      d[j] = RoundQuotient<T>(static_cast<float>(src[j]) * f[At(j, period)], 1);
+    }
   }
 }
 
