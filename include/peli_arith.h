@@ -258,8 +258,9 @@ PELI_API PelStatus peliMul_32f_AC4IR_L(const Pel32f* pSrc, PelIntL srcStep, Pel3
  * divisor gives the type's maximum for n > 0, its minimum for n < 0 and 0
  * for n = 0. In 8u forms each group of eight elements from the start of a
  * row whose divisors are all nonzero divides through a refined reciprocal
- * estimate (see below): q0 = n*r0, q1 = q0 + e*q0, q = q1 + (e*e)*q1 with
- * e = 1 - d*r0; the last (width x channels) mod 8 elements of a row and the
+ * estimate r0 (see below) of the scaled divisor d': q0 = n'*r0,
+ * q1 = q0 + e*q0, q = q1 + (e*e)*q1 with e = 1 - d'*r0 and n' the scaled
+ * dividend; the last (width x channels) mod 8 elements of a row and the
  * groups with a zero divisor divide exactly.
  * 32f forms: in each group of eight elements from the start of a row (the
  * last elements in groups of four) whose divisors are all nonzero, the
