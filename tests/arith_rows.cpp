@@ -328,7 +328,7 @@ PelStatus Invoke(PelStatus (*fn)(const T*, int, T*, int, PeliSize, PelRoundMode,
 // zero fill, left shifts up to saturation and beyond, the extremes), and the
 // ones the plain C1 member takes besides.
 std::vector<int> Scales(int zeroAbove, int bits) {
-  return {0, 1, 2, zeroAbove, -1, zeroAbove + 1, 3 - bits, -bits, 5, INT_MAX, -bits - 3, INT_MIN, 4, -2, 1000, -1000};
+  return {0, 1, 2, zeroAbove, -1, zeroAbove + 1, 1 - bits, -bits, 5, INT_MAX, -bits - 3, INT_MIN, 4, -2, 1000, -1000};
 }
 
 template <class T, class Fn>
@@ -506,29 +506,18 @@ constexpr Form kForms[4][4] = {
     {{4, 3, false, false}, {4, 3, true, false}, {4, 3, false, true}, {4, 3, true, true}},
 };
 
-// The sixteen members of an operation and type: each takes the next scale
-// factor of the list (integers), the plain C1 member every one of them.
-#define PEL_TWO_LAYOUT(Op, opc, t, T, L, l, sfs, pick)                                              \
-  AddTwo<T>(rows, opc, kForms[l][0], PEL_NAMED(peli##Op##_##t##_##L##R##sfs), pick(l, 0));            \
-  AddTwo<T>(rows, opc, kForms[l][1], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs), pick(l, 1));           \
-  AddTwo<T>(rows, opc, kForms[l][2], PEL_NAMED(peli##Op##_##t##_##L##R##sfs##_L), pick(l, 2));        \
-  AddTwo<T>(rows, opc, kForms[l][3], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs##_L), pick(l, 3));
-#define PEL_TWO(Op, opc, t, T, sfs, pick)                       \
-  PEL_TWO_LAYOUT(Op, opc, t, T, C1, 0, sfs, pick)                 \
-  PEL_TWO_LAYOUT(Op, opc, t, T, C3, 1, sfs, pick)                 \
-  PEL_TWO_LAYOUT(Op, opc, t, T, C4, 2, sfs, pick)                 \
-  PEL_TWO_LAYOUT(Op, opc, t, T, AC4, 3, sfs, pick)
-
-#define PEL_CONST_LAYOUT(Op, opc, t, T, L, l, sfs, pick)                                             \
-  AddConst<T>(rows, opc, kForms[l][0], PEL_NAMED(peli##Op##_##t##_##L##R##sfs), pick(l, 0));         \
-  AddConst<T>(rows, opc, kForms[l][1], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs), pick(l, 1));        \
-  AddConst<T>(rows, opc, kForms[l][2], PEL_NAMED(peli##Op##_##t##_##L##R##sfs##_L), pick(l, 2));     \
-  AddConst<T>(rows, opc, kForms[l][3], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs##_L), pick(l, 3));
-#define PEL_CONST(Op, opc, t, T, sfs, pick)                   \
-  PEL_CONST_LAYOUT(Op, opc, t, T, C1, 0, sfs, pick)             \
-  PEL_CONST_LAYOUT(Op, opc, t, T, C3, 1, sfs, pick)             \
-  PEL_CONST_LAYOUT(Op, opc, t, T, C4, 2, sfs, pick)             \
-  PEL_CONST_LAYOUT(Op, opc, t, T, AC4, 3, sfs, pick)
+// The sixteen members of an operation and type (AddTwo or AddConst rows):
+// pick(layout, form) gives each its scale factors or constant cases.
+#define PEL_FORMS_LAYOUT(add, Op, opc, t, T, L, l, sfs, pick)                                   \
+  add<T>(rows, opc, kForms[l][0], PEL_NAMED(peli##Op##_##t##_##L##R##sfs), pick(l, 0));         \
+  add<T>(rows, opc, kForms[l][1], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs), pick(l, 1));        \
+  add<T>(rows, opc, kForms[l][2], PEL_NAMED(peli##Op##_##t##_##L##R##sfs##_L), pick(l, 2));     \
+  add<T>(rows, opc, kForms[l][3], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs##_L), pick(l, 3));
+#define PEL_FORMS(add, Op, opc, t, T, sfs, pick)            \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C1, 0, sfs, pick)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C3, 1, sfs, pick)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C4, 2, sfs, pick)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, AC4, 3, sfs, pick)
 
 int ZeroAbove(Op op, int bytes, bool isSigned) {
   if (bytes == 1) return op == kAdd ? 9 : op == kSub ? 8 : op == kMul ? 16 : 8;
@@ -539,6 +528,14 @@ int ZeroAbove(Op op, int bytes, bool isSigned) {
 template <class T>
 std::vector<int> ScalesOf(Op op) {
   return Scales(ZeroAbove(op, sizeof(T), std::is_signed_v<T>), 8 * sizeof(T));
+}
+
+// Every scale factor for the plain C1 member, the next one in turn for the
+// other fifteen.
+template <class T>
+std::vector<int> ScalesFor(Op op, int l, int form) {
+  const std::vector<int> all = ScalesOf<T>(op);
+  return l == 0 && form == 0 ? all : std::vector<int>{all[size_t(l * 4 + form) % all.size()]};
 }
 
 // Constant cases of the plain C1 member: the shortcuts of the scale factor
@@ -555,7 +552,7 @@ std::vector<ConstCase<T>> ConstCases(Op op, int l, int form) {
     cases.push_back({0, {0}, "zero"});
     return cases;
   }
-  for (int s : {0, -bits, -bits - 4, 3, -3}) {
+  for (int s : {0, 1 - bits, -bits, -bits - 4, 3, -3}) {
     cases.push_back({s, {0}, "v0"});
     cases.push_back({s, {1}, "v1"});
     cases.push_back({s, {10}, "v10"});
@@ -565,44 +562,18 @@ std::vector<ConstCase<T>> ConstCases(Op op, int l, int form) {
 
 std::vector<Row> ArithRows() {
   std::vector<Row> rows;
-  auto pick8u = [](Op op) {
-    return [op](int l, int form) {
-      const std::vector<int> all = ScalesOf<Pel8u>(op);
-      return l == 0 && form == 0 ? all : std::vector<int>{all[size_t(l * 4 + form) % all.size()]};
-    };
-  };
-  auto pick16u = [](Op op) {
-    return [op](int l, int form) {
-      const std::vector<int> all = ScalesOf<Pel16u>(op);
-      return l == 0 && form == 0 ? all : std::vector<int>{all[size_t(l * 4 + form) % all.size()]};
-    };
-  };
-  auto pick16s = [](Op op) {
-    return [op](int l, int form) {
-      const std::vector<int> all = ScalesOf<Pel16s>(op);
-      return l == 0 && form == 0 ? all : std::vector<int>{all[size_t(l * 4 + form) % all.size()]};
-    };
-  };
   auto none = [](int, int) { return std::vector<int>{0}; };
-  const auto a8 = pick8u(kAdd), s8 = pick8u(kSub), m8 = pick8u(kMul), d8 = pick8u(kDiv);
-  const auto a16u = pick16u(kAdd), s16u = pick16u(kSub), m16u = pick16u(kMul), d16u = pick16u(kDiv);
-  const auto a16s = pick16s(kAdd), s16s = pick16s(kSub), m16s = pick16s(kMul), d16s = pick16s(kDiv);
-  PEL_TWO(Add, kAdd, 8u, Pel8u, Sfs, a8)
-  PEL_TWO(Sub, kSub, 8u, Pel8u, Sfs, s8)
-  PEL_TWO(Mul, kMul, 8u, Pel8u, Sfs, m8)
-  PEL_TWO(Div, kDiv, 8u, Pel8u, Sfs, d8)
-  PEL_TWO(Add, kAdd, 16u, Pel16u, Sfs, a16u)
-  PEL_TWO(Sub, kSub, 16u, Pel16u, Sfs, s16u)
-  PEL_TWO(Mul, kMul, 16u, Pel16u, Sfs, m16u)
-  PEL_TWO(Div, kDiv, 16u, Pel16u, Sfs, d16u)
-  PEL_TWO(Add, kAdd, 16s, Pel16s, Sfs, a16s)
-  PEL_TWO(Sub, kSub, 16s, Pel16s, Sfs, s16s)
-  PEL_TWO(Mul, kMul, 16s, Pel16s, Sfs, m16s)
-  PEL_TWO(Div, kDiv, 16s, Pel16s, Sfs, d16s)
-  PEL_TWO(Add, kAdd, 32f, Pel32f, , none)
-  PEL_TWO(Sub, kSub, 32f, Pel32f, , none)
-  PEL_TWO(Mul, kMul, 32f, Pel32f, , none)
-  PEL_TWO(Div, kDiv, 32f, Pel32f, , none)
+#define PEL_TWO_INT(Op, opc, t, T) \
+  PEL_FORMS(AddTwo, Op, opc, t, T, Sfs, [](int l, int f) { return ScalesFor<T>(opc, l, f); })
+#define PEL_TWO_TYPE(t, T) \
+  PEL_TWO_INT(Add, kAdd, t, T) PEL_TWO_INT(Sub, kSub, t, T) PEL_TWO_INT(Mul, kMul, t, T) PEL_TWO_INT(Div, kDiv, t, T)
+  PEL_TWO_TYPE(8u, Pel8u)
+  PEL_TWO_TYPE(16u, Pel16u)
+  PEL_TWO_TYPE(16s, Pel16s)
+  PEL_FORMS(AddTwo, Add, kAdd, 32f, Pel32f, , none)
+  PEL_FORMS(AddTwo, Sub, kSub, 32f, Pel32f, , none)
+  PEL_FORMS(AddTwo, Mul, kMul, 32f, Pel32f, , none)
+  PEL_FORMS(AddTwo, Div, kDiv, 32f, Pel32f, , none)
 
   // Div_Round: each member at a scale factor of its own in each mode, and
   // a mode out of range.
@@ -620,10 +591,10 @@ std::vector<Row> ArithRows() {
 
   // Constants.
 #define PEL_CONST_TYPE(t, T, sfs)                                                          \
-  PEL_CONST(AddC, kAdd, t, T, sfs, [](int l, int f) { return ConstCases<T>(kAdd, l, f); })  \
-  PEL_CONST(SubC, kSub, t, T, sfs, [](int l, int f) { return ConstCases<T>(kSub, l, f); })  \
-  PEL_CONST(MulC, kMul, t, T, sfs, [](int l, int f) { return ConstCases<T>(kMul, l, f); })  \
-  PEL_CONST(DivC, kDiv, t, T, sfs, [](int l, int f) { return ConstCases<T>(kDiv, l, f); })
+  PEL_FORMS(AddConst, AddC, kAdd, t, T, sfs, [](int l, int f) { return ConstCases<T>(kAdd, l, f); })  \
+  PEL_FORMS(AddConst, SubC, kSub, t, T, sfs, [](int l, int f) { return ConstCases<T>(kSub, l, f); })  \
+  PEL_FORMS(AddConst, MulC, kMul, t, T, sfs, [](int l, int f) { return ConstCases<T>(kMul, l, f); })  \
+  PEL_FORMS(AddConst, DivC, kDiv, t, T, sfs, [](int l, int f) { return ConstCases<T>(kDiv, l, f); })
   PEL_CONST_TYPE(8u, Pel8u, Sfs)
   PEL_CONST_TYPE(16u, Pel16u, Sfs)
   PEL_CONST_TYPE(16s, Pel16s, Sfs)
@@ -639,10 +610,10 @@ std::vector<Row> ArithRows() {
       return cases;
     };
   };
-  PEL_CONST(AddC, kAdd, 32f, Pel32f, , floatCases(kAdd))
-  PEL_CONST(SubC, kSub, 32f, Pel32f, , floatCases(kSub))
-  PEL_CONST(MulC, kMul, 32f, Pel32f, , floatCases(kMul))
-  PEL_CONST(DivC, kDiv, 32f, Pel32f, , floatCases(kDiv))
+  PEL_FORMS(AddConst, AddC, kAdd, 32f, Pel32f, , floatCases(kAdd))
+  PEL_FORMS(AddConst, SubC, kSub, 32f, Pel32f, , floatCases(kSub))
+  PEL_FORMS(AddConst, MulC, kMul, 32f, Pel32f, , floatCases(kMul))
+  PEL_FORMS(AddConst, DivC, kDiv, 32f, Pel32f, , floatCases(kDiv))
 
   // One operand: the element's result and status.
   AddUnary<float>(rows, PEL_NAMED(peliSqrt_32f_C1R), Specials(), [](float v) {

@@ -27,17 +27,13 @@ PelStatus RunTwoImages(Op op, Elem e, int layout, const TwoImages& im, int scale
   const Rows rows = RowsOf(uint64_t(im.width), uint64_t(im.height), LanesOf(layout), BytesOf(e),
                            true, {im.step1, im.step2, im.dstStep});
   const bool alpha = layout == kAC4;
-  for (uint64_t y = 0; y < rows.count; ++y) {
-    const auto py = static_cast<ptrdiff_t>(y);
-    const void* s1 = Row(im.src1, im.step1, py);
-    const void* s2 = Row(im.src2, im.step2, py);
-    void* d = Row(im.dst, im.dstStep, py);
+  ForEachRow(im, rows, [&](const void* s1, const void* s2, void* d) {
     if (e == Elem::k32f) {
       FloatBinaryRow(op, {s1}, {s2}, static_cast<float*>(d), rows.lanes, alpha);
     } else {
       IntBinaryRow(op, e, {s1}, {s2}, d, rows.lanes, scale, alpha);
     }
-  }
+  });
   return pelStatusOk;
 }
 

@@ -20,18 +20,14 @@ PelStatus DivRows(Elem e, int layout, const TwoImages& im, int scale, int mode) 
                            merge, {im.step1, im.step2, im.dstStep});
   const bool alpha = layout == kAC4;
   bool marked = false;
-  for (uint64_t y = 0; y < rows.count; ++y) {
-    const auto py = static_cast<ptrdiff_t>(y);
-    const void* s1 = Row(im.src1, im.step1, py);
-    const void* s2 = Row(im.src2, im.step2, py);
-    void* d = Row(im.dst, im.dstStep, py);
+  ForEachRow(im, rows, [&](const void* s1, const void* s2, void* d) {
     if (e == Elem::k32f) {
       marked = FloatDivRow(static_cast<const float*>(s1), static_cast<const float*>(s2),
                            static_cast<float*>(d), rows.lanes, alpha) || marked;
     } else {
       marked = IntDivRow(e, s1, s2, d, rows.lanes, scale, mode, alpha) || marked;
     }
-  }
+  });
   return marked ? pelStatusDivByZeroWarning : pelStatusOk;
 }
 

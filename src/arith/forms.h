@@ -9,6 +9,7 @@
 
 #include "arith/arith.h"
 #include "arith/div.h"
+#include "core/common.h"
 
 namespace pel::arith {
 
@@ -27,6 +28,15 @@ struct TwoImages {
 // Div: src2 / src1). Div_Round members pass hasMode and their mode.
 PelStatus RunTwoImages(Op op, Elem e, int layout, const TwoImages& im, int scale, bool hasMode,
                        int mode);
+
+// Calls row(src1, src2, dst) with the rows' first elements, row by row.
+template <class F>
+void ForEachRow(const TwoImages& im, const Rows& rows, F&& row) {
+  for (uint64_t y = 0; y < rows.count; ++y) {
+    const auto py = static_cast<ptrdiff_t>(y);
+    row(Row(im.src1, im.step1, py), Row(im.src2, im.step2, py), Row(im.dst, im.dstStep, py));
+  }
+}
 
 template <class T, class Step, class Size>
 TwoImages Two(const T* s1, Step st1, const T* s2, Step st2, T* d, Step dt, Size roi) {

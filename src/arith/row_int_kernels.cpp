@@ -36,52 +36,48 @@ struct Wide<uint16_t> { using type = uint32_t; };
 template <>
 struct Wide<int16_t> { using type = int32_t; };
 
-// Scale factor 0, Add and Sub: the saturating instructions are the rule.
-template <Op op, class T>
-size_t SaturatingLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
-                      bool alpha) {
+// Scale factor 0 in the lanes of T: f(a, b) gives the result vector.
+template <class T, class F>
+size_t NarrowLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
+                  bool alpha, F f) {
   const hn::ScalableTag<T> dt;
   const size_t N = hn::Lanes(dt);
   const auto colour = ColourLanes(dt);
   Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
   for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
-    const auto a = hn::LoadU(dt, s1 + at.a);
-    const auto b = hn::LoadU(dt, s2 + at.b);
-    StoreLanes(dt, op == kAdd ? hn::SaturatedAdd(a, b) : hn::SaturatedSub(b, a), d + i, alpha,
-               colour);
+    StoreLanes(dt, f(hn::LoadU(dt, s1 + at.a), hn::LoadU(dt, s2 + at.b)), d + i, alpha, colour);
   }
   cursor = at;
   return i;
 }
 
-// Scale factor 0, 16-bit Mul: the low half is the result when the high half
-// only extends its sign; otherwise the product saturates by its sign.
-template <class T>
-size_t Mul16Loop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
-                 bool alpha) {
-  const hn::ScalableTag<T> dt;
-  const size_t N = hn::Lanes(dt);
-  const auto colour = ColourLanes(dt);
-  Cursor at = cursor;  // in a register: the stores may alias the caller's
-  size_t i = 0;
-  for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
-    const auto a = hn::LoadU(dt, s1 + at.a);
-    const auto b = hn::LoadU(dt, s2 + at.b);
+// Add and Sub: the saturating instructions are the rule.
+template <Op op>
+struct Saturating {
+  template <class V>
+  HWY_INLINE V operator()(V a, V b) const {
+    return op == kAdd ? hn::SaturatedAdd(a, b) : hn::SaturatedSub(b, a);
+  }
+};
+
+// 16-bit Mul: the low half is the result when the high half only extends
+// its sign; otherwise the product saturates by its sign.
+struct Mul16 {
+  template <class V>
+  HWY_INLINE V operator()(V a, V b) const {
+    using T = hn::TFromV<V>;
+    const hn::DFromV<V> dt;
     const auto lo = hn::Mul(a, b);
     const auto hi = hn::MulHigh(a, b);
-    hn::Vec<decltype(dt)> v;
     if constexpr (std::is_unsigned_v<T>) {
-      v = hn::IfThenElse(hn::Eq(hi, hn::Zero(dt)), lo, hn::Set(dt, T{0xFFFF}));
+      return hn::IfThenElse(hn::Eq(hi, hn::Zero(dt)), lo, hn::Set(dt, T{0xFFFF}));
     } else {
       const auto fits = hn::Eq(hi, hn::ShiftRight<15>(lo));
-      v = hn::IfThenElse(fits, lo, hn::Xor(hn::ShiftRight<15>(hi), hn::Set(dt, T{0x7FFF})));
+      return hn::IfThenElse(fits, lo, hn::Xor(hn::ShiftRight<15>(hi), hn::Set(dt, T{0x7FFF})));
     }
-    StoreLanes(dt, v, d + i, alpha, colour);
   }
-  cursor = at;
-  return i;
-}
+};
 
 // The exact value of op on the next lanes of both rows, widened.
 template <Op op, class DW, class DN, class T>
@@ -157,9 +153,9 @@ template <Op op, class T>
 size_t IntBinaryLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, size_t n,
                      int s, bool alpha) {
   if constexpr (op != kMul) {
-    if (s == 0) return SaturatingLoop<op, T>(s1, s2, p, cursor, d, n, alpha);
+    if (s == 0) return NarrowLoop<T>(s1, s2, p, cursor, d, n, alpha, Saturating<op>());
   } else if constexpr (sizeof(T) == 2) {
-    if (s == 0) return Mul16Loop<T>(s1, s2, p, cursor, d, n, alpha);
+    if (s == 0) return NarrowLoop<T>(s1, s2, p, cursor, d, n, alpha, Mul16());
   }
   return s > 0 ? WideLoop<op, T, true>(s1, s2, p, cursor, d, n, s, alpha)
                : WideLoop<op, T, false>(s1, s2, p, cursor, d, n, s, alpha);
