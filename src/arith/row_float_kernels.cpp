@@ -128,12 +128,18 @@ size_t FloatBinaryLoop(const float* s1, const float* s2, Periods p, Cursor& curs
   const auto colour = ColourLanes(df);
   Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
-  for (; i + kLanes <= n; i += kLanes, at.Advance(kLanes, p.a, p.b)) {
-    const auto a = hn::LoadU(df, s1 + at.a);
-    const auto b = hn::LoadU(df, s2 + at.b);
+  auto one = [&](size_t k) {
+    const auto a = hn::LoadU(df, s1 + at.a + k);
+    const auto b = hn::LoadU(df, s2 + at.b + k);
     const auto v = op == kAdd ? hn::Add(a, b) : op == kSub ? hn::Sub(b, a) : hn::Mul(a, b);
-    StoreLanes(df, v, d + i, alpha, colour);
+    StoreLanes(df, v, d + i + k, alpha, colour);
+  };
+  // Four vectors a step while they fit (a period holds whole steps of four:
+  // the cursor starts each row at 0), then one.
+  for (; i + 4 * kLanes <= n; i += 4 * kLanes, at.Advance(4 * kLanes, p.a, p.b)) {
+    for (size_t k = 0; k < 4 * kLanes; k += kLanes) one(k);
   }
+  for (; i + kLanes <= n; i += kLanes, at.Advance(kLanes, p.a, p.b)) one(0);
   cursor = at;
   return i;
 }

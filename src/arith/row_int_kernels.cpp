@@ -45,6 +45,14 @@ size_t NarrowLoop(const T* s1, const T* s2, Periods p, Cursor& cursor, T* d, siz
   const auto colour = ColourLanes(dt);
   Cursor at = cursor;  // in a register: the stores may alias the caller's
   size_t i = 0;
+  // Four vectors a step while they fit (a period holds whole steps of four:
+  // the cursor starts each row at 0), then one.
+  for (; i + 4 * N <= n; i += 4 * N, at.Advance(4 * N, p.a, p.b)) {
+    for (size_t k = 0; k < 4 * N; k += N) {
+      StoreLanes(dt, f(hn::LoadU(dt, s1 + at.a + k), hn::LoadU(dt, s2 + at.b + k)), d + i + k,
+                 alpha, colour);
+    }
+  }
   for (; i + N <= n; i += N, at.Advance(N, p.a, p.b)) {
     StoreLanes(dt, f(hn::LoadU(dt, s1 + at.a), hn::LoadU(dt, s2 + at.b)), d + i, alpha, colour);
   }
