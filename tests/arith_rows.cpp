@@ -3,6 +3,7 @@
 // (ScaleRule, ToInt), and the single-precision formulas where the library
 // defines its results by them (division, DivC). The runner does the rest.
 #include <climits>
+#include <functional>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -331,9 +332,20 @@ std::vector<int> Scales(int zeroAbove, int bits) {
   return {0, 1, 2, zeroAbove, -1, zeroAbove + 1, 1 - bits, -bits, 5, INT_MAX, -bits - 3, INT_MIN, 4, -2, 1000, -1000};
 }
 
-template <class T, class Fn>
-void AddTwo(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, std::vector<int> scales, int mode = 1,
-            bool divRound = false) {
+template <class T>
+std::vector<int> ScalesFor(Op op, int l, int form);
+
+// A member's call with its scale factor and mode, whatever its signature.
+using Invoker = std::function<PelStatus(Call&, int, int)>;
+
+// The rows of one member; one instantiation a type (the signature is
+// erased), which keeps the table's compile time down.
+template <class T>
+[[gnu::noinline]] void AddTwoRows(std::vector<Row>& rows, Op op, Form f, const char* name, Invoker fn, int l,
+                                  int form, int mode, bool divRound) {
+  const std::vector<int> scales = divRound ? std::vector<int>{ScalesOf<T>(kDiv)[size_t(l + mode + 1) % 8]}
+                                  : std::is_same_v<T, float> ? std::vector<int>{0}
+                                                             : ScalesFor<T>(op, l, form);
   const bool isDiv = op == kDiv;
   // Div checks steps except plain Div of 16u; a Div_Round row with a bad
   // mode fails after them.
@@ -345,7 +357,7 @@ void AddTwo(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, std:
     if (!f.inPlace) args.push_back(Out<T>(f.C));
     for (Arg& a : args) a.step = steps ? StepRule::Positive : StepRule::None;
     Row r{name, scales.size() > 1 || divRound ? ScaleName(s) + (divRound ? "r" + std::to_string(mode) : "") : "", args,
-          [fn, s, mode](Call& c) { return Invoke<T>(fn, c, s, mode); },
+          [fn, s, mode](Call& c) { return fn(c, s, mode); },
           [f, op, s, mode](Model& m) { return TwoModel<T>(m, f, op, s, mode); }};
     if (steps) r.order = {Check::Pointers, Check::Sizes, Check::Steps};
     if (divRound && (mode < 0 || mode > 2)) {
@@ -357,6 +369,13 @@ void AddTwo(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, std:
     r.seed = static_cast<uint32_t>(k + 1);
     rows.push_back(r);
   }
+}
+
+template <class T, class Fn>
+void AddTwo(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, int l, int form, int mode = 1,
+            bool divRound = false) {
+  AddTwoRows<T>(rows, op, f, name, [fn](Call& c, int s, int m) { return Invoke<T>(fn, c, s, m); }, l, form, mode,
+                divRound);
 }
 
 // ---- Image and constant ---------------------------------------------------------------
@@ -439,8 +458,13 @@ struct ConstCase {
   std::string name;
 };
 
-template <class T, class Fn>
-void AddConst(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, std::vector<ConstCase<T>> cases) {
+template <class T>
+std::vector<ConstCase<T>> ConstCases(Op op, int l, int form);
+
+template <class T>
+[[gnu::noinline]] void AddConstRows(std::vector<Row>& rows, Op op, Form f, const char* name, Invoker fn, int l,
+                                    int form) {
+  const std::vector<ConstCase<T>> cases = ConstCases<T>(op, l, form);
   const bool full = !f.inPlace && !f.large;
   const int n = f.C == 1 ? 1 : f.computed;
   for (size_t k = 0; k < cases.size(); ++k) {
@@ -450,7 +474,7 @@ void AddConst(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, st
     if (op == kDiv)
       for (Arg& a : args) a.step = StepRule::Positive;
     Row r{name, cases.size() > 1 ? ScaleName(cc.s) + cc.name : "", args,
-          [fn, cc](Call& c) { return InvokeC<T>(fn, c, cc.s); },
+          [fn, cc](Call& c) { return fn(c, cc.s, 0); },
           [f, op, cc](Model& m) { return ConstModel<T>(m, f, op, cc.s); }};
     if (op == kDiv) r.order = {Check::Pointers, Check::Sizes, Check::Steps};
     bool zero = false;
@@ -496,6 +520,11 @@ void AddUnary(std::vector<Row>& rows, const char* name, PelStatus (*fn)(const T*
   rows.push_back(r);
 }
 
+template <class T, class Fn>
+void AddConst(std::vector<Row>& rows, Op op, Form f, const char* name, Fn fn, int l, int form) {
+  AddConstRows<T>(rows, op, f, name, [fn](Call& c, int s, int) { return InvokeC<T>(fn, c, s); }, l, form);
+}
+
 // ---- The table --------------------------------------------------------------------------
 
 constexpr Form kForms[4][4] = {
@@ -507,17 +536,17 @@ constexpr Form kForms[4][4] = {
 };
 
 // The sixteen members of an operation and type (AddTwo or AddConst rows):
-// pick(layout, form) gives each its scale factors or constant cases.
-#define PEL_FORMS_LAYOUT(add, Op, opc, t, T, L, l, sfs, pick)                                   \
-  add<T>(rows, opc, kForms[l][0], PEL_NAMED(peli##Op##_##t##_##L##R##sfs), pick(l, 0));         \
-  add<T>(rows, opc, kForms[l][1], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs), pick(l, 1));        \
-  add<T>(rows, opc, kForms[l][2], PEL_NAMED(peli##Op##_##t##_##L##R##sfs##_L), pick(l, 2));     \
-  add<T>(rows, opc, kForms[l][3], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs##_L), pick(l, 3));
-#define PEL_FORMS(add, Op, opc, t, T, sfs, pick)            \
-  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C1, 0, sfs, pick)      \
-  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C3, 1, sfs, pick)      \
-  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C4, 2, sfs, pick)      \
-  PEL_FORMS_LAYOUT(add, Op, opc, t, T, AC4, 3, sfs, pick)
+// Each takes its scale factors or constant cases by (layout, form).
+#define PEL_FORMS_LAYOUT(add, Op, opc, t, T, L, l, sfs)                                   \
+  add<T>(rows, opc, kForms[l][0], PEL_NAMED(peli##Op##_##t##_##L##R##sfs), l, 0);         \
+  add<T>(rows, opc, kForms[l][1], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs), l, 1);        \
+  add<T>(rows, opc, kForms[l][2], PEL_NAMED(peli##Op##_##t##_##L##R##sfs##_L), l, 2);     \
+  add<T>(rows, opc, kForms[l][3], PEL_NAMED(peli##Op##_##t##_##L##IR##sfs##_L), l, 3);
+#define PEL_FORMS(add, Op, opc, t, T, sfs)            \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C1, 0, sfs)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C3, 1, sfs)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, C4, 2, sfs)      \
+  PEL_FORMS_LAYOUT(add, Op, opc, t, T, AC4, 3, sfs)
 
 int ZeroAbove(Op op, int bytes, bool isSigned) {
   if (bytes == 1) return op == kAdd ? 9 : op == kSub ? 8 : op == kMul ? 16 : 8;
@@ -543,6 +572,16 @@ std::vector<int> ScalesFor(Op op, int l, int form) {
 // random constants at each scale factor.
 template <class T>
 std::vector<ConstCase<T>> ConstCases(Op op, int l, int form) {
+  if constexpr (std::is_same_v<T, float>) {
+    std::vector<ConstCase<float>> cases{{0, {}, ""}};
+    if (l == 0 && form == 0) {  // NaN and infinite constants, -0.0, 9/10, a zero divisor
+      cases.push_back({0, {std::numeric_limits<float>::quiet_NaN()}, "nan"});
+      cases.push_back({0, {INFINITY}, "inf"});
+      cases.push_back({0, {op == kDiv ? 10.0f : -0.0f}, "v"});
+      if (op == kDiv) cases.push_back({0, {-0.0f}, "zero"});
+    }
+    return cases;
+  }
   const std::vector<int> scales = ScalesOf<T>(op);
   const int bits = 8 * sizeof(T);
   if (l != 0 || form != 0) return {{scales[size_t(l * 4 + form) % scales.size()], {}, ""}};
@@ -562,58 +601,29 @@ std::vector<ConstCase<T>> ConstCases(Op op, int l, int form) {
 
 std::vector<Row> ArithRows() {
   std::vector<Row> rows;
-  auto none = [](int, int) { return std::vector<int>{0}; };
-#define PEL_TWO_INT(Op, opc, t, T) \
-  PEL_FORMS(AddTwo, Op, opc, t, T, Sfs, [](int l, int f) { return ScalesFor<T>(opc, l, f); })
-#define PEL_TWO_TYPE(t, T) \
-  PEL_TWO_INT(Add, kAdd, t, T) PEL_TWO_INT(Sub, kSub, t, T) PEL_TWO_INT(Mul, kMul, t, T) PEL_TWO_INT(Div, kDiv, t, T)
-  PEL_TWO_TYPE(8u, Pel8u)
-  PEL_TWO_TYPE(16u, Pel16u)
-  PEL_TWO_TYPE(16s, Pel16s)
-  PEL_FORMS(AddTwo, Add, kAdd, 32f, Pel32f, , none)
-  PEL_FORMS(AddTwo, Sub, kSub, 32f, Pel32f, , none)
-  PEL_FORMS(AddTwo, Mul, kMul, 32f, Pel32f, , none)
-  PEL_FORMS(AddTwo, Div, kDiv, 32f, Pel32f, , none)
+#define PEL_TYPE(add, t, T, sfs, a, b, c, d) \
+  PEL_FORMS(add, a, kAdd, t, T, sfs) PEL_FORMS(add, b, kSub, t, T, sfs) PEL_FORMS(add, c, kMul, t, T, sfs) PEL_FORMS(add, d, kDiv, t, T, sfs)
+  PEL_TYPE(AddTwo, 8u, Pel8u, Sfs, Add, Sub, Mul, Div)
+  PEL_TYPE(AddTwo, 16u, Pel16u, Sfs, Add, Sub, Mul, Div)
+  PEL_TYPE(AddTwo, 16s, Pel16s, Sfs, Add, Sub, Mul, Div)
+  PEL_TYPE(AddTwo, 32f, Pel32f, , Add, Sub, Mul, Div)
+  PEL_TYPE(AddConst, 8u, Pel8u, Sfs, AddC, SubC, MulC, DivC)
+  PEL_TYPE(AddConst, 16u, Pel16u, Sfs, AddC, SubC, MulC, DivC)
+  PEL_TYPE(AddConst, 16s, Pel16s, Sfs, AddC, SubC, MulC, DivC)
+  PEL_TYPE(AddConst, 32f, Pel32f, , AddC, SubC, MulC, DivC)
 
   // Div_Round: each member at a scale factor of its own in each mode, and
-  // a mode out of range.
-#define PEL_DIV_ROUND(t, T, L, l)                                                                    \
-  for (int mode : {0, 1, 2, 3, -1}) {                                                                 \
-    const int s = ScalesOf<T>(kDiv)[size_t(l + mode + 1) % 8];                                        \
-    AddTwo<T>(rows, kDiv, kForms[l][0], PEL_NAMED(peliDiv_Round_##t##_##L##RSfs), {s}, mode, true);   \
-    AddTwo<T>(rows, kDiv, kForms[l][1], PEL_NAMED(peliDiv_Round_##t##_##L##IRSfs), {s}, mode, true);  \
+  // modes out of range.
+#define PEL_DIV_ROUND(t, T, L, l)                                                                  \
+  for (int mode : {0, 1, 2, 3, -1}) {                                                               \
+    AddTwo<T>(rows, kDiv, kForms[l][0], PEL_NAMED(peliDiv_Round_##t##_##L##RSfs), l, 0, mode, true);  \
+    AddTwo<T>(rows, kDiv, kForms[l][1], PEL_NAMED(peliDiv_Round_##t##_##L##IRSfs), l, 1, mode, true); \
   }
 #define PEL_DIV_ROUND_TYPE(t, T) \
   PEL_DIV_ROUND(t, T, C1, 0) PEL_DIV_ROUND(t, T, C3, 1) PEL_DIV_ROUND(t, T, C4, 2) PEL_DIV_ROUND(t, T, AC4, 3)
   PEL_DIV_ROUND_TYPE(8u, Pel8u)
   PEL_DIV_ROUND_TYPE(16u, Pel16u)
   PEL_DIV_ROUND_TYPE(16s, Pel16s)
-
-  // Constants.
-#define PEL_CONST_TYPE(t, T, sfs)                                                          \
-  PEL_FORMS(AddConst, AddC, kAdd, t, T, sfs, [](int l, int f) { return ConstCases<T>(kAdd, l, f); })  \
-  PEL_FORMS(AddConst, SubC, kSub, t, T, sfs, [](int l, int f) { return ConstCases<T>(kSub, l, f); })  \
-  PEL_FORMS(AddConst, MulC, kMul, t, T, sfs, [](int l, int f) { return ConstCases<T>(kMul, l, f); })  \
-  PEL_FORMS(AddConst, DivC, kDiv, t, T, sfs, [](int l, int f) { return ConstCases<T>(kDiv, l, f); })
-  PEL_CONST_TYPE(8u, Pel8u, Sfs)
-  PEL_CONST_TYPE(16u, Pel16u, Sfs)
-  PEL_CONST_TYPE(16s, Pel16s, Sfs)
-  auto floatCases = [](Op op) {
-    return [op](int l, int f) {
-      std::vector<ConstCase<float>> cases{{0, {}, ""}};
-      if (l == 0 && f == 0) {
-        cases.push_back({0, {std::numeric_limits<float>::quiet_NaN()}, "nan"});
-        cases.push_back({0, {INFINITY}, "inf"});
-        cases.push_back({0, {op == kDiv ? 10.0f : -0.0f}, "v"});
-        if (op == kDiv) cases.push_back({0, {-0.0f}, "zero"});
-      }
-      return cases;
-    };
-  };
-  PEL_FORMS(AddConst, AddC, kAdd, 32f, Pel32f, , floatCases(kAdd))
-  PEL_FORMS(AddConst, SubC, kSub, 32f, Pel32f, , floatCases(kSub))
-  PEL_FORMS(AddConst, MulC, kMul, 32f, Pel32f, , floatCases(kMul))
-  PEL_FORMS(AddConst, DivC, kDiv, 32f, Pel32f, , floatCases(kDiv))
 
   // One operand: the element's result and status.
   AddUnary<float>(rows, PEL_NAMED(peliSqrt_32f_C1R), Specials(), [](float v) {
