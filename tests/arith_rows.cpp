@@ -248,7 +248,11 @@ struct Form {
   bool inPlace, large;
 };
 
-std::string ScaleName(int s) { return s < 0 ? "sm" + std::to_string(-s) : "s" + std::to_string(s); }
+std::string ScaleName(int s) {
+  std::string name = s < 0 ? "sm" : "s";
+  name += std::to_string(s < 0 ? -int64_t{s} : int64_t{s});
+  return name;
+}
 
 // ---- Two images -------------------------------------------------------------------------
 
@@ -356,7 +360,9 @@ template <class T>
     std::vector<Arg> args{Src<T>(f.C), f.inPlace ? SrcDst<T>(f.C) : Src<T>(f.C)};
     if (!f.inPlace) args.push_back(Out<T>(f.C));
     for (Arg& a : args) a.step = steps ? StepRule::Positive : StepRule::None;
-    Row r{name, scales.size() > 1 || divRound ? ScaleName(s) + (divRound ? "r" + std::to_string(mode) : "") : "", args,
+    std::string variant = scales.size() > 1 || divRound ? ScaleName(s) : "";
+    if (divRound) variant.append("r").append(std::to_string(mode));
+    Row r{name, variant, args,
           [fn, s, mode](Call& c) { return fn(c, s, mode); },
           [f, op, s, mode](Model& m) { return TwoModel<T>(m, f, op, s, mode); }};
     if (steps) r.order = {Check::Pointers, Check::Sizes, Check::Steps};
