@@ -1,0 +1,270 @@
+// Vector row kernels of the logic and shift family: one source, compiled
+// once per instruction set by Highway, chosen at run time. The baseline
+// target runs the scalar references, so PEL_CPU=scalar gives exactly those.
+//
+// Bitwise logic does not care what the bits mean, so it works on bytes: a
+// constant operand or an alpha layout is a byte pattern, and one kernel
+// serves every element type and channel count. Shifts work on lanes of the
+// element's size.
+//
+// Vectors never leave the row and never run over it a second time: Xor and
+// the shifts are not idempotent in place, so the last partial vector of a
+// row is done by the scalar reference.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "logic/row_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <cstddef>
+#include <cstdint>
+
+#include "hwy/highway.h"
+#include "logic/row_kernels.h"
+#include "logic/row_scalar.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace pel::logic::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
+
+void LogicRowTarget(LogicOp op, const uint8_t* a, const uint8_t* b, uint8_t* d, size_t bytes,
+                    const BytePattern& p) {
+  scalar::LogicRowAny(op, a, b, d, 0, bytes, p);
+}
+
+void ShiftRowTarget(ShiftKind kind, int elemBytes, const void* s, void* d, size_t elements,
+                    const ShiftPattern& p) {
+  scalar::ShiftRowAny(kind, elemBytes, s, d, 0, elements, p);
+}
+
+#else
+
+// Stores v except in the lanes `keep` selects, which keep their value.
+// AVX-512 has true masked stores; below it the destination vector is read,
+// blended and written back, so kept lanes get their own value again.
+template <class D, class M, class V>
+HWY_INLINE void StoreKeeping(D d, M keep, V v, hn::TFromD<D>* p) {
+#if HWY_TARGET <= HWY_AVX3
+  hn::BlendedStore(v, hn::Not(keep), d, p);
+#else
+  hn::StoreU(hn::IfThenElse(keep, hn::LoadU(d, p), v), d, p);
+#endif
+}
+
+// A run of three vectors holds a whole number of periods of any pattern
+// (periods divide 48 bytes, or are 1, 3 or 4 lanes), so the pattern is
+// loaded as three vectors once and vector k of every run uses the k-th.
+constexpr size_t kRun = 3;
+
+// Three vectors of lanes f(i % period), i = 0 .. 3 * Lanes(d) - 1.
+template <class D, class F>
+HWY_INLINE void PatternVectors(D d, int period, F f, hn::Vec<D>* out) {
+  using T = hn::TFromD<D>;
+  HWY_ALIGN T lanes[kRun * HWY_MAX_BYTES / sizeof(T)];
+  const size_t N = hn::Lanes(d);
+  for (size_t i = 0; i < kRun * N; ++i) lanes[i] = f(i % static_cast<size_t>(period));
+  for (size_t k = 0; k < kRun; ++k) out[k] = hn::Load(d, lanes + k * N);
+}
+
+// ---------------------------------------------------------------- logic
+
+template <LogicOp kOp, class V>
+HWY_INLINE V Apply(V a, V b) {
+  if constexpr (kOp == LogicOp::kAnd) return hn::And(a, b);
+  if constexpr (kOp == LogicOp::kOr) return hn::Or(a, b);
+  return hn::Xor(a, b);
+}
+
+// kImage: the second operand is the image b, else the pattern's constant.
+// kKeep: the pattern keeps some bytes (alpha layouts).
+template <LogicOp kOp, bool kImage, bool kKeep>
+void LogicRowT(const uint8_t* a, const uint8_t* b, uint8_t* d, size_t n, const BytePattern& p) {
+  const hn::ScalableTag<uint8_t> du8;
+  using V = hn::Vec<decltype(du8)>;
+  const size_t N = hn::Lanes(du8);
+  V constant[kRun], keep[kRun];
+  PatternVectors(du8, p.period, [&p](size_t k) { return p.value[k]; }, constant);
+  PatternVectors(
+      du8, p.period, [&p](size_t k) { return static_cast<uint8_t>(p.keep[k] ? 0xFF : 0); }, keep);
+  auto one = [&](size_t i, size_t k) {
+    const V r = Apply<kOp>(hn::LoadU(du8, a + i), kImage ? hn::LoadU(du8, b + i) : constant[k]);
+    if constexpr (kKeep) {
+      StoreKeeping(du8, hn::MaskFromVec(keep[k]), r, d + i);
+    } else {
+      hn::StoreU(r, du8, d + i);
+    }
+  };
+  size_t i = 0;
+  for (; i + kRun * N <= n; i += kRun * N) {
+    for (size_t k = 0; k < kRun; ++k) one(i + k * N, k);
+  }
+  for (size_t k = 0; i + N <= n; i += N, ++k) one(i, k);
+  scalar::LogicRow<kOp>(a, kImage ? b : nullptr, d, i, n, p);
+}
+
+template <LogicOp kOp>
+void LogicRowOp(const uint8_t* a, const uint8_t* b, uint8_t* d, size_t n, const BytePattern& p) {
+  if (b != nullptr) {
+    if (p.keeps) return LogicRowT<kOp, true, true>(a, b, d, n, p);
+    return LogicRowT<kOp, true, false>(a, b, d, n, p);
+  }
+  if (p.keeps) return LogicRowT<kOp, false, true>(a, b, d, n, p);
+  return LogicRowT<kOp, false, false>(a, b, d, n, p);
+}
+
+void LogicRowTarget(LogicOp op, const uint8_t* a, const uint8_t* b, uint8_t* d, size_t bytes,
+                    const BytePattern& p) {
+  switch (op) {
+    case LogicOp::kAnd: return LogicRowOp<LogicOp::kAnd>(a, b, d, bytes, p);
+    case LogicOp::kOr: return LogicRowOp<LogicOp::kOr>(a, b, d, bytes, p);
+    case LogicOp::kXor: return LogicRowOp<LogicOp::kXor>(a, b, d, bytes, p);
+  }
+}
+
+// ---------------------------------------------------------------- shifts
+
+// Every lane by one count below the lane width.
+template <ShiftKind kKind, class D, class V = hn::Vec<D>>
+HWY_INLINE V ShiftSame(D d, V v, int count) {
+  if constexpr (kKind == ShiftKind::kLeft) return hn::ShiftLeftSame(v, count);
+  if constexpr (kKind == ShiftKind::kRightLogical) return hn::ShiftRightSame(v, count);
+  const hn::RebindToSigned<D> di;
+  return hn::BitCast(d, hn::ShiftRightSame(hn::BitCast(di, v), count));
+}
+
+// Lane by lane, each count below the lane width. Bytes have no shifts of
+// their own: each byte is shifted inside its 16-bit pair, by the count of
+// the even byte (low) or the odd one (high), and the bits that cross into
+// the other byte are cut off.
+template <ShiftKind kKind, class D, class V = hn::Vec<D>>
+HWY_INLINE V ShiftLanes(D d, V v, V counts) {
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) == 1) {
+    const hn::Repartition<uint16_t, D> dw;
+    const auto w = hn::BitCast(dw, v);
+    const auto c = hn::BitCast(dw, counts);
+    const auto lowCount = hn::And(c, hn::Set(dw, 0x00FF));
+    const auto highCount = hn::ShiftRight<8>(c);
+    const auto lowByte = hn::Set(dw, 0x00FF), highByte = hn::Set(dw, 0xFF00);
+    if constexpr (kKind == ShiftKind::kLeft) {
+      return hn::BitCast(d, hn::Or(hn::And(hn::Shl(w, lowCount), lowByte),
+                                   hn::Shl(hn::And(w, highByte), highCount)));
+    } else {
+      static_assert(kKind == ShiftKind::kRightLogical, "no arithmetic shift of bytes");
+      return hn::BitCast(d, hn::Or(hn::Shr(hn::And(w, lowByte), lowCount),
+                                   hn::And(hn::Shr(w, highCount), highByte)));
+    }
+  } else if constexpr (kKind == ShiftKind::kLeft) {
+    return hn::Shl(v, counts);
+  } else if constexpr (kKind == ShiftKind::kRightLogical) {
+    return hn::Shr(v, counts);
+  } else {
+    const hn::RebindToSigned<D> di;
+    return hn::BitCast(d, hn::Shr(hn::BitCast(di, v), hn::BitCast(di, counts)));
+  }
+}
+
+// A count of the lane width or more: the lane's own shift instructions
+// disagree about it, so the count is cut to width - 1 and a logical shift
+// is then cleared (an arithmetic one already gives the sign).
+template <ShiftKind kKind, class U>
+constexpr U CutCount(uint32_t count) {
+  constexpr uint32_t kBits = 8 * sizeof(U);
+  return static_cast<U>(count < kBits ? count : kBits - 1);
+}
+template <ShiftKind kKind, class U>
+constexpr U Survives(uint32_t count) {
+  const bool cleared = kKind != ShiftKind::kRightArithmetic && count >= 8 * sizeof(U);
+  return cleared ? U{0} : static_cast<U>(~U{0});
+}
+
+template <ShiftKind kKind, class U>
+void ShiftSameRowT(const U* s, U* d, size_t n, uint32_t count) {
+  const hn::ScalableTag<U> du;
+  const size_t N = hn::Lanes(du);
+  const int cut = CutCount<kKind, U>(count);
+  const auto survives = hn::Set(du, Survives<kKind, U>(count));
+  size_t i = 0;
+  for (; i + 2 * N <= n; i += 2 * N) {
+    const auto v0 = hn::LoadU(du, s + i);
+    const auto v1 = hn::LoadU(du, s + i + N);
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, v0, cut), survives), du, d + i);
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, v1, cut), survives), du, d + i + N);
+  }
+  for (; i + N <= n; i += N) {
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, hn::LoadU(du, s + i), cut), survives), du, d + i);
+  }
+  ShiftPattern one;
+  one.count[0] = count;
+  scalar::ShiftRow<U>(kKind, s, d, i, n, one);
+}
+
+template <ShiftKind kKind, class U>
+void ShiftLanesRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
+  const hn::ScalableTag<U> du;
+  using V = hn::Vec<decltype(du)>;
+  const size_t N = hn::Lanes(du);
+  V counts[kRun], survives[kRun], keep[kRun];
+  PatternVectors(du, p.period, [&p](size_t k) { return CutCount<kKind, U>(p.count[k]); }, counts);
+  PatternVectors(du, p.period, [&p](size_t k) { return Survives<kKind, U>(p.count[k]); }, survives);
+  PatternVectors(
+      du, p.period, [&p](size_t k) { return p.keep[k] ? static_cast<U>(~U{0}) : U{0}; }, keep);
+  size_t i = 0;
+  for (size_t k = 0; i + N <= n; i += N, k = k + 1 == kRun ? 0 : k + 1) {
+    const V r = hn::And(ShiftLanes<kKind>(du, hn::LoadU(du, s + i), counts[k]), survives[k]);
+    StoreKeeping(du, hn::MaskFromVec(keep[k]), r, d + i);
+  }
+  scalar::ShiftRow<U>(kKind, s, d, i, n, p);
+}
+
+template <ShiftKind kKind, class U>
+void ShiftRowT(const void* s, void* d, size_t n, const ShiftPattern& p) {
+  const auto* src = static_cast<const U*>(s);
+  auto* dst = static_cast<U*>(d);
+  if (p.period == 1 && !p.keep[0]) return ShiftSameRowT<kKind, U>(src, dst, n, p.count[0]);
+  ShiftLanesRowT<kKind, U>(src, dst, n, p);
+}
+
+void ShiftRowTarget(ShiftKind kind, int elemBytes, const void* s, void* d, size_t elements,
+                    const ShiftPattern& p) {
+  switch (kind) {
+    case ShiftKind::kLeft:
+      if (elemBytes == 1) return ShiftRowT<ShiftKind::kLeft, uint8_t>(s, d, elements, p);
+      if (elemBytes == 2) return ShiftRowT<ShiftKind::kLeft, uint16_t>(s, d, elements, p);
+      if (elemBytes == 4) return ShiftRowT<ShiftKind::kLeft, uint32_t>(s, d, elements, p);
+      break;
+    case ShiftKind::kRightLogical:
+      if (elemBytes == 1) return ShiftRowT<ShiftKind::kRightLogical, uint8_t>(s, d, elements, p);
+      if (elemBytes == 2) return ShiftRowT<ShiftKind::kRightLogical, uint16_t>(s, d, elements, p);
+      break;
+    case ShiftKind::kRightArithmetic:
+      if (elemBytes == 2) return ShiftRowT<ShiftKind::kRightArithmetic, uint16_t>(s, d, elements, p);
+      if (elemBytes == 4) return ShiftRowT<ShiftKind::kRightArithmetic, uint32_t>(s, d, elements, p);
+      break;
+  }
+  scalar::ShiftRowAny(kind, elemBytes, s, d, 0, elements, p);
+}
+
+#endif
+
+}  // namespace pel::logic::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace pel::logic {
+
+HWY_EXPORT(LogicRowTarget);
+HWY_EXPORT(ShiftRowTarget);
+
+void LogicRow(LogicOp op, const uint8_t* a, const uint8_t* b, uint8_t* d, size_t bytes,
+              const BytePattern& p) {
+  HWY_DYNAMIC_DISPATCH(LogicRowTarget)(op, a, b, d, bytes, p);
+}
+
+void ShiftRow(ShiftKind kind, int elemBytes, const void* s, void* d, size_t elements,
+              const ShiftPattern& p) {
+  HWY_DYNAMIC_DISPATCH(ShiftRowTarget)(kind, elemBytes, s, d, elements, p);
+}
+
+}  // namespace pel::logic
+#endif
