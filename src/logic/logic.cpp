@@ -11,32 +11,18 @@ namespace pel::logic {
 namespace {
 
 // The byte pattern of a pixel of C elements: value[c] in the first W
-// channels (none when value is null), the rest kept. It is then cut to its
-// shortest period, so equal constants (C3 {x, x, x}, or a 32-bit constant
-// of four equal bytes) run as a one-byte pattern, like a one-channel call.
+// channels (none when value is null), the rest kept.
 template <class T, int C, int W>
 BytePattern PixelPattern(const T* value) {
-  constexpr int kPixel = C * static_cast<int>(sizeof(T));
-  static_assert(kPixel <= 16, "a pixel is at most 16 bytes");
-  BytePattern p;
+  uint8_t pixel[C * sizeof(T)] = {}, keep[C * sizeof(T)] = {};
   for (int c = 0; c < C; ++c) {
-    uint8_t* bytes = p.value + c * sizeof(T);
-    if (c < W && value != nullptr) std::memcpy(bytes, &value[c], sizeof(T));
-    if (c >= W) std::memset(p.keep + c * sizeof(T), 1, sizeof(T));
+    if (c < W && value != nullptr) std::memcpy(pixel + c * sizeof(T), &value[c], sizeof(T));
+    if (c >= W) std::memset(keep + c * sizeof(T), 0xFF, sizeof(T));
   }
+  BytePattern p;
+  RepeatOver(p.value, pixel, sizeof pixel);
+  RepeatOver(p.keep, keep, sizeof keep);
   p.keeps = W < C;
-  p.period = kPixel;
-  for (int d = 1; d < kPixel; ++d) {
-    if (kPixel % d != 0) continue;
-    bool repeats = true;
-    for (int i = d; i < kPixel && repeats; ++i) {
-      repeats = p.value[i] == p.value[i % d] && p.keep[i] == p.keep[i % d];
-    }
-    if (repeats) {
-      p.period = d;
-      break;
-    }
-  }
   return p;
 }
 

@@ -51,19 +51,14 @@ HWY_INLINE void StoreKeeping(D d, M keep, V v, hn::TFromD<D>* p) {
 #endif
 }
 
-// A run of three vectors holds a whole number of periods of any pattern
-// (periods divide 48 bytes, or are 1, 3 or 4 lanes), so the pattern is
-// loaded as three vectors once and vector k of every run uses the k-th.
+// A run of three vectors holds a whole number of pattern periods, so vector
+// k of every run uses the pattern's k-th vector.
 constexpr size_t kRun = 3;
 
-// Three vectors of lanes f(i % period), i = 0 .. 3 * Lanes(d) - 1.
-template <class D, class F>
-HWY_INLINE void PatternVectors(D d, int period, F f, hn::Vec<D>* out) {
-  using T = hn::TFromD<D>;
-  HWY_ALIGN T lanes[kRun * HWY_MAX_BYTES / sizeof(T)];
-  const size_t N = hn::Lanes(d);
-  for (size_t i = 0; i < kRun * N; ++i) lanes[i] = f(i % static_cast<size_t>(period));
-  for (size_t k = 0; k < kRun; ++k) out[k] = hn::Load(d, lanes + k * N);
+template <class D>
+HWY_INLINE void PatternVectors(D d, const uint8_t* bytes, hn::Vec<D>* out) {
+  const auto* lanes = reinterpret_cast<const hn::TFromD<D>*>(bytes);
+  for (size_t k = 0; k < kRun; ++k) out[k] = hn::Load(d, lanes + k * hn::Lanes(d));
 }
 
 // ---------------------------------------------------------------- logic
@@ -83,9 +78,8 @@ void LogicRowT(const uint8_t* a, const uint8_t* b, uint8_t* d, size_t n, const B
   using V = hn::Vec<decltype(du8)>;
   const size_t N = hn::Lanes(du8);
   V constant[kRun], keep[kRun];
-  PatternVectors(du8, p.period, [&p](size_t k) { return p.value[k]; }, constant);
-  PatternVectors(
-      du8, p.period, [&p](size_t k) { return static_cast<uint8_t>(p.keep[k] ? 0xFF : 0); }, keep);
+  if constexpr (!kImage) PatternVectors(du8, p.value, constant);
+  if constexpr (kKeep) PatternVectors(du8, p.keep, keep);
   auto one = [&](size_t i, size_t k) {
     const V r = Apply<kOp>(hn::LoadU(du8, a + i), kImage ? hn::LoadU(du8, b + i) : constant[k]);
     if constexpr (kKeep) {
@@ -123,6 +117,18 @@ void LogicRowTarget(LogicOp op, const uint8_t* a, const uint8_t* b, uint8_t* d, 
 
 // ---------------------------------------------------------------- shifts
 
+// Counts arrive cut to the lane width. The lanes' own shifts disagree about
+// a count of the full width, so they get width - 1, and a logical shift by
+// the full width is then cleared (an arithmetic one already is the sign).
+template <ShiftKind kKind, class D, class V = hn::Vec<D>>
+HWY_INLINE void CutCounts(D d, V counts, V* cut, V* survives) {
+  using T = hn::TFromD<D>;
+  const auto width = hn::Set(d, static_cast<T>(8 * sizeof(T)));
+  *cut = hn::Min(counts, hn::Sub(width, hn::Set(d, T{1})));
+  *survives = kKind == ShiftKind::kRightArithmetic ? hn::Not(hn::Zero(d))
+                                                   : hn::VecFromMask(d, hn::Lt(counts, width));
+}
+
 // Every lane by one count below the lane width.
 template <ShiftKind kKind, class D, class V = hn::Vec<D>>
 HWY_INLINE V ShiftSame(D d, V v, int count) {
@@ -143,9 +149,9 @@ HWY_INLINE V ShiftLanes(D d, V v, V counts) {
     const hn::Repartition<uint16_t, D> dw;
     const auto w = hn::BitCast(dw, v);
     const auto c = hn::BitCast(dw, counts);
-    const auto lowCount = hn::And(c, hn::Set(dw, 0x00FF));
-    const auto highCount = hn::ShiftRight<8>(c);
     const auto lowByte = hn::Set(dw, 0x00FF), highByte = hn::Set(dw, 0xFF00);
+    const auto lowCount = hn::And(c, lowByte);
+    const auto highCount = hn::ShiftRight<8>(c);
     if constexpr (kKind == ShiftKind::kLeft) {
       return hn::BitCast(d, hn::Or(hn::And(hn::Shl(w, lowCount), lowByte),
                                    hn::Shl(hn::And(w, highByte), highCount)));
@@ -164,39 +170,24 @@ HWY_INLINE V ShiftLanes(D d, V v, V counts) {
   }
 }
 
-// A count of the lane width or more: the lane's own shift instructions
-// disagree about it, so the count is cut to width - 1 and a logical shift
-// is then cleared (an arithmetic one already gives the sign).
 template <ShiftKind kKind, class U>
-constexpr U CutCount(uint32_t count) {
-  constexpr uint32_t kBits = 8 * sizeof(U);
-  return static_cast<U>(count < kBits ? count : kBits - 1);
-}
-template <ShiftKind kKind, class U>
-constexpr U Survives(uint32_t count) {
-  const bool cleared = kKind != ShiftKind::kRightArithmetic && count >= 8 * sizeof(U);
-  return cleared ? U{0} : static_cast<U>(~U{0});
-}
-
-template <ShiftKind kKind, class U>
-void ShiftSameRowT(const U* s, U* d, size_t n, uint32_t count) {
+void ShiftSameRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
   const hn::ScalableTag<U> du;
   const size_t N = hn::Lanes(du);
-  const int cut = CutCount<kKind, U>(count);
-  const auto survives = hn::Set(du, Survives<kKind, U>(count));
+  hn::Vec<decltype(du)> cut, survives;
+  CutCounts<kKind>(du, hn::Set(du, scalar::LoadAt<U>(p.count, 0)), &cut, &survives);
+  const int count = static_cast<int>(hn::GetLane(cut));
   size_t i = 0;
   for (; i + 2 * N <= n; i += 2 * N) {
     const auto v0 = hn::LoadU(du, s + i);
     const auto v1 = hn::LoadU(du, s + i + N);
-    hn::StoreU(hn::And(ShiftSame<kKind>(du, v0, cut), survives), du, d + i);
-    hn::StoreU(hn::And(ShiftSame<kKind>(du, v1, cut), survives), du, d + i + N);
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, v0, count), survives), du, d + i);
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, v1, count), survives), du, d + i + N);
   }
   for (; i + N <= n; i += N) {
-    hn::StoreU(hn::And(ShiftSame<kKind>(du, hn::LoadU(du, s + i), cut), survives), du, d + i);
+    hn::StoreU(hn::And(ShiftSame<kKind>(du, hn::LoadU(du, s + i), count), survives), du, d + i);
   }
-  ShiftPattern one;
-  one.count[0] = count;
-  scalar::ShiftRow<U>(kKind, s, d, i, n, one);
+  scalar::ShiftRow<U>(kKind, s, d, i, n, p);
 }
 
 template <ShiftKind kKind, class U>
@@ -205,10 +196,9 @@ void ShiftLanesRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
   using V = hn::Vec<decltype(du)>;
   const size_t N = hn::Lanes(du);
   V counts[kRun], survives[kRun], keep[kRun];
-  PatternVectors(du, p.period, [&p](size_t k) { return CutCount<kKind, U>(p.count[k]); }, counts);
-  PatternVectors(du, p.period, [&p](size_t k) { return Survives<kKind, U>(p.count[k]); }, survives);
-  PatternVectors(
-      du, p.period, [&p](size_t k) { return p.keep[k] ? static_cast<U>(~U{0}) : U{0}; }, keep);
+  PatternVectors(du, p.count, counts);
+  PatternVectors(du, p.keep, keep);
+  for (size_t k = 0; k < kRun; ++k) CutCounts<kKind>(du, counts[k], &counts[k], &survives[k]);
   size_t i = 0;
   for (size_t k = 0; i + N <= n; i += N, k = k + 1 == kRun ? 0 : k + 1) {
     const V r = hn::And(ShiftLanes<kKind>(du, hn::LoadU(du, s + i), counts[k]), survives[k]);
@@ -221,7 +211,7 @@ template <ShiftKind kKind, class U>
 void ShiftRowT(const void* s, void* d, size_t n, const ShiftPattern& p) {
   const auto* src = static_cast<const U*>(s);
   auto* dst = static_cast<U*>(d);
-  if (p.period == 1 && !p.keep[0]) return ShiftSameRowT<kKind, U>(src, dst, n, p.count[0]);
+  if (p.uniform) return ShiftSameRowT<kKind, U>(src, dst, n, p);
   ShiftLanesRowT<kKind, U>(src, dst, n, p);
 }
 

@@ -24,12 +24,11 @@ inline uint8_t Apply(uint8_t a, uint8_t b) {
 template <LogicOp kOp>
 void LogicRow(const uint8_t* a, const uint8_t* b, uint8_t* d, size_t begin, size_t end,
               const BytePattern& p) {
-  const size_t period = static_cast<size_t>(p.period);
-  size_t k = begin % period;
+  size_t k = begin % kPatternBytes;
   for (size_t i = begin; i < end; ++i) {
     const uint8_t other = b != nullptr ? b[i] : p.value[k];
     if (p.keep[k] == 0) d[i] = Apply<kOp>(a[i], other);
-    if (++k == period) k = 0;
+    if (++k == kPatternBytes) k = 0;
   }
 }
 
@@ -73,11 +72,13 @@ inline U Shift(ShiftKind kind, U s, uint32_t count) {
 template <class U>
 void ShiftRow(ShiftKind kind, const void* s, void* d, size_t begin, size_t end,
               const ShiftPattern& p) {
-  const size_t period = static_cast<size_t>(p.period);
-  size_t k = begin % period;
+  constexpr size_t kLanes = kPatternBytes / sizeof(U);
+  size_t k = begin % kLanes;
   for (size_t i = begin; i < end; ++i) {
-    if (!p.keep[k]) StoreAt<U>(d, i, Shift<U>(kind, LoadAt<U>(s, i), p.count[k]));
-    if (++k == period) k = 0;
+    if (p.keep[k * sizeof(U)] == 0) {
+      StoreAt<U>(d, i, Shift<U>(kind, LoadAt<U>(s, i), LoadAt<U>(p.count, k)));
+    }
+    if (++k == kLanes) k = 0;
   }
 }
 

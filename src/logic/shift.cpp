@@ -2,6 +2,7 @@
 
 #include "core/common.h"
 #include "core/exports.h"
+#include "core/lanes.h"
 #include "datamove/copy.h"
 #include "datamove/masked.h"
 #include "datamove/set.h"
@@ -21,17 +22,24 @@ constexpr Pel32u kBits = 8 * sizeof(T);
 template <class T, int C, int W>
 PelStatus FillZero(T* d, int dStep, PeliSize roi) {
   static constexpr T kZeros[4] = {};
-  if constexpr (W < C) return datamove::SetAlpha<T>(kZeros, d, dStep, roi);
-  if constexpr (C == 1) return datamove::SetC1<T>(T{0}, d, dStep, roi);
-  if constexpr (W == C && C > 1) return datamove::Set<T, C>(kZeros, d, dStep, roi);
+  if constexpr (W < C) {
+    return datamove::SetAlpha<T>(kZeros, d, dStep, roi);
+  } else if constexpr (C == 1) {
+    return datamove::SetC1<T>(T{0}, d, dStep, roi);
+  } else {
+    return datamove::Set<T, C>(kZeros, d, dStep, roi);
+  }
 }
 
 // A count of 0 copies; in place there is nothing to do.
 template <class T, int C, int W>
 PelStatus CopyOrNothing(const T* s, int sStep, T* d, int dStep, PeliSize roi) {
   if (s == d && sStep == dStep) return pelStatusOk;
-  if constexpr (W < C) return datamove::CopyAlpha<T>(s, sStep, d, dStep, roi);
-  if constexpr (W == C) return datamove::Copy<T, C>(s, sStep, d, dStep, roi);
+  if constexpr (W < C) {
+    return datamove::CopyAlpha<T>(s, sStep, d, dStep, roi);
+  } else {
+    return datamove::Copy<T, C>(s, sStep, d, dStep, roi);
+  }
 }
 
 template <class T, int C>
@@ -51,9 +59,7 @@ template <class T, int C, ShiftKind kKind>
 PelStatus ShiftAll(const T* s, int sStep, Pel32u count, T* d, int dStep, PeliSize roi) {
   if (count == 0) return CopyOrNothing<T, C, C>(s, sStep, d, dStep, roi);
   if (Clears(kKind) && count >= kBits<T>) return FillZero<T, C, C>(d, dStep, roi);
-  ShiftPattern p;
-  p.count[0] = count;
-  return WalkShift<T, C>(kKind, s, sStep, d, dStep, roi, p);
+  return WalkShift<T, C>(kKind, s, sStep, d, dStep, roi, MakeShiftPattern<LaneOf<T>>(&count, 1, 1));
 }
 
 }  // namespace
@@ -90,13 +96,8 @@ PelStatus Shift(const T* pSrc, int srcStep, const Pel32u* value, T* pDst, int ds
   }
   if (allClear) return FillZero<T, C, W>(pDst, dstStep, roiSize);
   if (allZero) return CopyOrNothing<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize);
-  ShiftPattern p;
-  p.period = C;
-  for (int c = 0; c < C; ++c) {
-    p.count[c] = c < W ? value[c] : 0;
-    p.keep[c] = c >= W;
-  }
-  return WalkShift<T, C>(kKind, pSrc, srcStep, pDst, dstStep, roiSize, p);
+  return WalkShift<T, C>(kKind, pSrc, srcStep, pDst, dstStep, roiSize,
+                         MakeShiftPattern<LaneOf<T>>(value, C, W));
 }
 
 template <class T, int C, int W, ShiftKind kKind>
