@@ -190,20 +190,28 @@ void ShiftSameRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
   scalar::ShiftRow<U>(kKind, s, d, i, n, p);
 }
 
-template <ShiftKind kKind, class U>
+template <ShiftKind kKind, class U, bool kKeep>
 void ShiftLanesRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
   const hn::ScalableTag<U> du;
   using V = hn::Vec<decltype(du)>;
   const size_t N = hn::Lanes(du);
   V counts[kRun], survives[kRun], keep[kRun];
   PatternVectors(du, p.count, counts);
-  PatternVectors(du, p.keep, keep);
+  if constexpr (kKeep) PatternVectors(du, p.keep, keep);
   for (size_t k = 0; k < kRun; ++k) CutCounts<kKind>(du, counts[k], &counts[k], &survives[k]);
-  size_t i = 0;
-  for (size_t k = 0; i + N <= n; i += N, k = k + 1 == kRun ? 0 : k + 1) {
+  auto one = [&](size_t i, size_t k) {
     const V r = hn::And(ShiftLanes<kKind>(du, hn::LoadU(du, s + i), counts[k]), survives[k]);
-    StoreKeeping(du, hn::MaskFromVec(keep[k]), r, d + i);
+    if constexpr (kKeep) {
+      StoreKeeping(du, hn::MaskFromVec(keep[k]), r, d + i);
+    } else {
+      hn::StoreU(r, du, d + i);
+    }
+  };
+  size_t i = 0;
+  for (; i + kRun * N <= n; i += kRun * N) {
+    for (size_t k = 0; k < kRun; ++k) one(i + k * N, k);
   }
+  for (size_t k = 0; i + N <= n; i += N, ++k) one(i, k);
   scalar::ShiftRow<U>(kKind, s, d, i, n, p);
 }
 
@@ -212,7 +220,8 @@ void ShiftRowT(const void* s, void* d, size_t n, const ShiftPattern& p) {
   const auto* src = static_cast<const U*>(s);
   auto* dst = static_cast<U*>(d);
   if (p.uniform) return ShiftSameRowT<kKind, U>(src, dst, n, p);
-  ShiftLanesRowT<kKind, U>(src, dst, n, p);
+  if (p.keeps) return ShiftLanesRowT<kKind, U, true>(src, dst, n, p);
+  ShiftLanesRowT<kKind, U, false>(src, dst, n, p);
 }
 
 void ShiftRowTarget(ShiftKind kind, int elemBytes, const void* s, void* d, size_t elements,

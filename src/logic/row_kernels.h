@@ -45,6 +45,7 @@ struct ShiftPattern {
   alignas(64) uint8_t count[kPatternBytes];
   alignas(64) uint8_t keep[kPatternBytes];  // 0xFF bytes: the element keeps its value
   bool uniform;                             // one count for every element, none kept
+  bool keeps;                               // some element is kept (alpha layouts)
 };
 
 // Channel c of `channels`-lane pixels shifted by counts[c], for c < shifted;
@@ -62,6 +63,7 @@ ShiftPattern MakeShiftPattern(const uint32_t* counts, int channels, int shifted)
   RepeatOver(p.count, count, channels * sizeof(U));
   RepeatOver(p.keep, keep, channels * sizeof(U));
   p.uniform = channels == 1;
+  p.keeps = shifted < channels;
   return p;
 }
 
