@@ -72,10 +72,7 @@ std::function<PelStatus(Model&)> Elementwise(int W, int src, int dst, Operand<S>
 // Every image's step is checked (at least 1), before the sizes.
 template <class T>
 Arg Image(Use use, int channels) {
-  Arg a;
-  a.type = ElemOf<T>();
-  a.channels = channels;
-  a.use = use;
+  Arg a = ArgOf(ElemOf<T>(), channels, use);
   a.step = StepRule::Positive;
   return a;
 }
