@@ -54,6 +54,7 @@ HWY_INLINE void StoreKeeping(D d, M keep, V v, hn::TFromD<D>* p) {
 // A run of three vectors holds a whole number of pattern periods, so vector
 // k of every run uses the pattern's k-th vector.
 constexpr size_t kRun = 3;
+static_assert(kRun * HWY_MAX_BYTES <= kPatternBytes, "patterns hold three vectors");
 
 template <class D>
 HWY_INLINE void PatternVectors(D d, const uint8_t* bytes, hn::Vec<D>* out) {
