@@ -62,6 +62,29 @@ HWY_INLINE void PatternVectors(D d, const uint8_t* bytes, hn::Vec<D>* out) {
   for (size_t k = 0; k < kRun; ++k) out[k] = hn::Load(d, lanes + k * hn::Lanes(d));
 }
 
+// Computes vector(i, k) for the whole vectors of a row of n lanes (i its
+// first lane, k its place in the run) and stores it at d + i, keeping the
+// lanes of keep[k] when kKeep. Returns the lanes done; the rest of the row
+// is less than a vector.
+template <bool kKeep, class D, class F>
+HWY_INLINE size_t StoreVectors(D d, hn::TFromD<D>* out, size_t n, const hn::Vec<D>* keep,
+                               F vector) {
+  const size_t N = hn::Lanes(d);
+  auto one = [&](size_t i, size_t k) {
+    if constexpr (kKeep) {
+      StoreKeeping(d, hn::MaskFromVec(keep[k]), vector(i, k), out + i);
+    } else {
+      hn::StoreU(vector(i, k), d, out + i);
+    }
+  };
+  size_t i = 0;
+  for (; i + kRun * N <= n; i += kRun * N) {
+    for (size_t k = 0; k < kRun; ++k) one(i + k * N, k);
+  }
+  for (size_t k = 0; i + N <= n; i += N, ++k) one(i, k);
+  return i;
+}
+
 // ---------------------------------------------------------------- logic
 
 template <LogicOp kOp, class V>
@@ -76,25 +99,13 @@ HWY_INLINE V Apply(V a, V b) {
 template <LogicOp kOp, bool kImage, bool kKeep>
 void LogicRowT(const uint8_t* a, const uint8_t* b, uint8_t* d, size_t n, const BytePattern& p) {
   const hn::ScalableTag<uint8_t> du8;
-  using V = hn::Vec<decltype(du8)>;
-  const size_t N = hn::Lanes(du8);
-  V constant[kRun], keep[kRun];
+  hn::Vec<decltype(du8)> constant[kRun], keep[kRun];
   if constexpr (!kImage) PatternVectors(du8, p.value, constant);
   if constexpr (kKeep) PatternVectors(du8, p.keep, keep);
-  auto one = [&](size_t i, size_t k) {
-    const V r = Apply<kOp>(hn::LoadU(du8, a + i), kImage ? hn::LoadU(du8, b + i) : constant[k]);
-    if constexpr (kKeep) {
-      StoreKeeping(du8, hn::MaskFromVec(keep[k]), r, d + i);
-    } else {
-      hn::StoreU(r, du8, d + i);
-    }
-  };
-  size_t i = 0;
-  for (; i + kRun * N <= n; i += kRun * N) {
-    for (size_t k = 0; k < kRun; ++k) one(i + k * N, k);
-  }
-  for (size_t k = 0; i + N <= n; i += N, ++k) one(i, k);
-  scalar::LogicRow<kOp>(a, kImage ? b : nullptr, d, i, n, p);
+  const size_t done = StoreVectors<kKeep>(du8, d, n, keep, [&](size_t i, size_t k) {
+    return Apply<kOp>(hn::LoadU(du8, a + i), kImage ? hn::LoadU(du8, b + i) : constant[k]);
+  });
+  scalar::LogicRow<kOp>(a, kImage ? b : nullptr, d, done, n, p);
 }
 
 template <LogicOp kOp>
@@ -194,26 +205,14 @@ void ShiftSameRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
 template <ShiftKind kKind, class U, bool kKeep>
 void ShiftLanesRowT(const U* s, U* d, size_t n, const ShiftPattern& p) {
   const hn::ScalableTag<U> du;
-  using V = hn::Vec<decltype(du)>;
-  const size_t N = hn::Lanes(du);
-  V counts[kRun], survives[kRun], keep[kRun];
+  hn::Vec<decltype(du)> counts[kRun], survives[kRun], keep[kRun];
   PatternVectors(du, p.count, counts);
   if constexpr (kKeep) PatternVectors(du, p.keep, keep);
   for (size_t k = 0; k < kRun; ++k) CutCounts<kKind>(du, counts[k], &counts[k], &survives[k]);
-  auto one = [&](size_t i, size_t k) {
-    const V r = hn::And(ShiftLanes<kKind>(du, hn::LoadU(du, s + i), counts[k]), survives[k]);
-    if constexpr (kKeep) {
-      StoreKeeping(du, hn::MaskFromVec(keep[k]), r, d + i);
-    } else {
-      hn::StoreU(r, du, d + i);
-    }
-  };
-  size_t i = 0;
-  for (; i + kRun * N <= n; i += kRun * N) {
-    for (size_t k = 0; k < kRun; ++k) one(i + k * N, k);
-  }
-  for (size_t k = 0; i + N <= n; i += N, ++k) one(i, k);
-  scalar::ShiftRow<U>(kKind, s, d, i, n, p);
+  const size_t done = StoreVectors<kKeep>(du, d, n, keep, [&](size_t i, size_t k) {
+    return hn::And(ShiftLanes<kKind>(du, hn::LoadU(du, s + i), counts[k]), survives[k]);
+  });
+  scalar::ShiftRow<U>(kKind, s, d, done, n, p);
 }
 
 template <ShiftKind kKind, class U>
