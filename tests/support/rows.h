@@ -80,22 +80,30 @@ struct Arg {
   bool latePointer = false;
 };
 
+// Member by member: a partial aggregate initializer warns with -Wextra.
+inline Arg ArgOf(ElemType type, int channels, Use use) {
+  Arg a;
+  a.type = type;
+  a.channels = channels;
+  a.use = use;
+  return a;
+}
 template <class T>
 Arg In(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::In};
+  return ArgOf(ElemOf<T>(), channels, Use::In);
 }
 template <class T>
 Arg Out(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::Out};
+  return ArgOf(ElemOf<T>(), channels, Use::Out);
 }
 template <class T>
 Arg InOut(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::InOut};
+  return ArgOf(ElemOf<T>(), channels, Use::InOut);
 }
 // An array of `count` constants the export reads through a pointer.
 template <class T>
 Arg Consts(int count) {
-  Arg a{ElemOf<T>(), 1, Use::In};
+  Arg a = In<T>(1);
   a.count = count;
   return a;
 }
