@@ -133,27 +133,22 @@ constexpr PelDataType TypeOf() {
   else return pelType32f;
 }
 
-// Count tables in the buffer, one region a channel: 8u four interleaved
-// tables of 256 (one-channel rows spread consecutive pixels over them, so
-// that runs of one value do not wait on each other), 16-bit one table of
-// 65536 and a slot.
-template <class T>
-constexpr size_t TableEntries() {
-  return sizeof(T) == 1 ? 4 * 256 : 65537;
-}
+// Count tables in the buffer. 8u: four interleaved tables of 256 a channel
+// (one-channel rows spread consecutive pixels over them, so that runs of one
+// value do not wait on each other), all channels in one pass. 16-bit: one
+// table of 65536 and a slot, reused channel after channel, which keeps the
+// buffer at 256 KiB whatever the channel count.
 constexpr int64_t BufferBytes(PelDataType type, int channels) {
-  const int64_t entries = type == pelType8u ? 4 * 256 : type == pelType32f ? 0 : 65537;
-  return entries * 4 * channels + int64_t(kSpecAlign);
+  const int64_t entries = type == pelType8u ? 4 * 256 * channels : type == pelType32f ? 0 : 65537;
+  return entries * 4 + int64_t(kSpecAlign);
 }
 
-template <class T, int C>
-void CountValues(const T* src, int step, PeliSize roi, uint32_t* tables) {
-  constexpr int kBias = std::is_same_v<T, Pel16s> ? 32768 : 0;
-  constexpr size_t kRegion = TableEntries<T>();
-  std::memset(tables, 0, kRegion * C * sizeof(uint32_t));
+template <int C>
+void Count8u(const Pel8u* src, int step, PeliSize roi, uint32_t* tables) {
+  std::memset(tables, 0, 1024 * C * sizeof(uint32_t));
   for (int y = 0; y < roi.height; ++y) {
-    const T* r = Row(src, step, y);
-    if constexpr (C == 1 && sizeof(T) == 1) {
+    const Pel8u* r = Row(src, step, y);
+    if constexpr (C == 1) {
       int x = 0;
       for (; x + 4 <= roi.width; x += 4) {
         ++tables[r[x]];
@@ -164,8 +159,18 @@ void CountValues(const T* src, int step, PeliSize roi, uint32_t* tables) {
       for (; x < roi.width; ++x) ++tables[r[x]];
     } else {
       for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < C; ++c) ++tables[c * kRegion + size_t(r[x * C + c] + kBias)];
+        for (int c = 0; c < C; ++c) ++tables[1024 * c + r[x * C + c]];
     }
+  }
+}
+
+template <class T, int C>
+void Count16(const T* src, int step, PeliSize roi, int c, uint32_t* table) {
+  constexpr int kBias = std::is_same_v<T, Pel16s> ? 32768 : 0;
+  std::memset(table, 0, 65536 * sizeof(uint32_t));
+  for (int y = 0; y < roi.height; ++y) {
+    const T* r = Row(src, step, y) + c;
+    for (int x = 0; x < roi.width; ++x) ++table[r[x * C] + kBias];
   }
 }
 
@@ -250,9 +255,11 @@ PelStatus HistogramImpl(const T* pSrc, int srcStep, PeliSize roi, Pel32u* const*
     FloatBins<C>(pSrc, srcStep, roi, pSpec, pHist);
   } else {
     auto* tables = reinterpret_cast<uint32_t*>(AlignUp64(pBuffer));
-    CountValues<T, C>(pSrc, srcStep, roi, tables);
+    if constexpr (sizeof(T) == 1) Count8u<C>(pSrc, srcStep, roi, tables);
     for (int c = 0; c < C; ++c) {
-      uint32_t* t = tables + c * TableEntries<T>();
+      uint32_t* t = tables;
+      if constexpr (sizeof(T) == 1) t += 1024 * c;
+      else Count16<T, C>(pSrc, srcStep, roi, c, t);
       PrefixSums<T>(t);
       IntegerBins<T>(pSpec, c, t, pHist[c]);
     }

@@ -89,8 +89,11 @@ void ExtremesT(const T* row, size_t n, int channels, T mins[4], T maxs[4]) {
     hn::Store(mn[r], d, lo + r * N);
     hn::Store(mx[r], d, hi + r * N);
   }
-  scalar::ExtremesRange(lo, 0, 3 * N, channels, mins, maxs);
-  scalar::ExtremesRange(hi, 0, 3 * N, channels, mins, maxs);
+  for (size_t p = 0; p < 3 * N; ++p) {
+    const size_t c = p % static_cast<size_t>(channels);
+    if (lo[p] < mins[c]) mins[c] = lo[p];
+    if (hi[p] > maxs[c]) maxs[c] = hi[p];
+  }
   scalar::ExtremesRange(row, i, n, channels, mins, maxs);
 }
 
