@@ -15,11 +15,15 @@ namespace {
 constexpr uint64_t kExactLimit = uint64_t{1} << 53;
 
 // The defined result: one Pel64f running total per channel, left to right.
+// The totals live in registers for the row: each addition waits for the one
+// before, so a trip through memory would lengthen the chain.
 template <class T, int C, int kUsed>
 void SequentialRow(const T* a, const T* b, int width, double total[4]) {
+  double t[kUsed];
+  for (int c = 0; c < kUsed; ++c) t[c] = total[c];
   for (int x = 0; x < width; ++x)
-    for (int c = 0; c < kUsed; ++c)
-      total[c] += static_cast<double>(a[x * C + c]) * static_cast<double>(b[x * C + c]);
+    for (int c = 0; c < kUsed; ++c) t[c] += static_cast<double>(a[x * C + c]) * static_cast<double>(b[x * C + c]);
+  for (int c = 0; c < kUsed; ++c) total[c] = t[c];
 }
 
 // Integer products: while a row cannot take any intermediate total beyond

@@ -14,6 +14,7 @@
 
 #include "hwy/highway.h"
 #include "stats/extremes_scalar.h"
+#include "stats/lane_reduce-inl.h"
 #include "stats/lane_channels.h"
 #include "stats/row_extreme_kernels.h"
 
@@ -83,13 +84,27 @@ void ExtremesT(const T* row, size_t n, int channels, T mins[4], T maxs[4]) {
     mx[r] = Higher<D>(x, mx[r]);
   }
   // Lane p of the three accumulators side by side saw elements p, p + 3N,
-  // ...: channel p mod channels, since 3N is a multiple of 3 and of 4.
+  // ...: channel p mod channels, since 3N is a multiple of 3 and of 4. With
+  // one or four channels the three agree lane by lane and merge first.
+  size_t lanes = 3 * N;
+  if (channels != 3) {
+    mn[0] = Lower<D>(mn[0], Lower<D>(mn[1], mn[2]));
+    mx[0] = Higher<D>(mx[0], Higher<D>(mx[1], mx[2]));
+    lanes = N;
+    if (channels == 1) {
+      const T lo = ReduceLanes(d, mn[0], [](auto x, auto y) HWY_ATTR { return Lower<decltype(hn::DFromV<decltype(x)>())>(x, y); });
+      const T hi = ReduceLanes(d, mx[0], [](auto x, auto y) HWY_ATTR { return Higher<decltype(hn::DFromV<decltype(x)>())>(x, y); });
+      if (lo < mins[0]) mins[0] = lo;
+      if (hi > maxs[0]) maxs[0] = hi;
+      return scalar::ExtremesRange(row, i, n, channels, mins, maxs);
+    }
+  }
   HWY_ALIGN T lo[3 * N], hi[3 * N];
   for (size_t r = 0; r < 3; ++r) {
     hn::Store(mn[r], d, lo + r * N);
     hn::Store(mx[r], d, hi + r * N);
   }
-  for (size_t p = 0; p < 3 * N; ++p) {
+  for (size_t p = 0; p < lanes; ++p) {
     const size_t c = p % static_cast<size_t>(channels);
     if (lo[p] < mins[c]) mins[c] = lo[p];
     if (hi[p] > maxs[c]) maxs[c] = hi[p];

@@ -18,6 +18,7 @@
 
 #include "hwy/highway.h"
 #include "stats/lane_channels.h"
+#include "stats/lane_reduce-inl.h"
 #include "stats/reduce_scalar.h"
 #include "stats/row_reduce_kernels.h"
 
@@ -71,15 +72,6 @@ HWY_INLINE uint64_t LaneSum(D d, VecOf<D> v) {
   uint64_t total = 0;
   for (size_t i = 0; i < hn::MaxLanes(d); ++i) total += lanes[i];
   return total;
-}
-
-template <class D>
-HWY_INLINE uint64_t LaneMax(D d, VecOf<D> v) {
-  HWY_ALIGN hn::TFromD<D> lanes[hn::MaxLanes(D())];
-  hn::Store(v, d, lanes);
-  uint64_t m = 0;
-  for (size_t i = 0; i < hn::MaxLanes(d); ++i) m = lanes[i] > m ? lanes[i] : m;
-  return m;
 }
 
 // Lanes of channel c in the vector that starts at element `start` of a row
@@ -200,7 +192,9 @@ struct MaxU {
   VecOf<D> m;
   HWY_INLINE void Init() { m = hn::Zero(D()); }
   HWY_INLINE void Add(VecOf<D> v) { m = hn::Max(m, v); }
-  HWY_INLINE uint64_t Total() { return LaneMax(D(), m); }
+  HWY_INLINE uint64_t Total() {
+    return ReduceLanes(D(), m, [](auto x, auto y) HWY_ATTR { return hn::Max(x, y); });
+  }
 };
 
 template <IntOp O, class D>
