@@ -124,18 +124,12 @@ void ForEachRun(PeliSize roi, std::initializer_list<int> steps, F&& f) {
 
 }  // namespace
 
-template <class T, int C, int kUsed>
-PelStatus Min(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin) {
-  if (AnyNull(pSrc, pMin)) return pelStatusNullPointer;
+template <class T, int C, int kUsed, bool kMax>
+PelStatus Extreme(const T* pSrc, int srcStep, PeliSize roiSize, T* pValue) {
+  if (AnyNull(pSrc, pValue)) return pelStatusNullPointer;
   if (BadSize(roiSize)) return pelStatusBadSize;
-  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, pMin, nullptr, nullptr, nullptr, nullptr, nullptr);
-}
-
-template <class T, int C, int kUsed>
-PelStatus Max(const T* pSrc, int srcStep, PeliSize roiSize, T* pMax) {
-  if (AnyNull(pSrc, pMax)) return pelStatusNullPointer;
-  if (BadSize(roiSize)) return pelStatusBadSize;
-  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, nullptr, pMax, nullptr, nullptr, nullptr, nullptr);
+  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, kMax ? nullptr : pValue, kMax ? pValue : nullptr, nullptr,
+                           nullptr, nullptr, nullptr);
 }
 
 template <class T, int C, int kUsed>
@@ -145,20 +139,12 @@ PelStatus MinMax(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin, T* pMax)
   return Find<T, C, kUsed>(pSrc, srcStep, roiSize, pMin, pMax, nullptr, nullptr, nullptr, nullptr);
 }
 
-template <class T, int C, int kUsed>
-PelStatus MinIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin, int* pIndexX,
-                  int* pIndexY) {
-  if (AnyNull(pSrc, pMin, pIndexX, pIndexY)) return pelStatusNullPointer;
+template <class T, int C, int kUsed, bool kMax>
+PelStatus ExtremeIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pValue, int* pIndexX, int* pIndexY) {
+  if (AnyNull(pSrc, pValue, pIndexX, pIndexY)) return pelStatusNullPointer;
   if (BadSize(roiSize)) return pelStatusBadSize;
-  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, pMin, nullptr, pIndexX, pIndexY, nullptr, nullptr);
-}
-
-template <class T, int C, int kUsed>
-PelStatus MaxIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pMax, int* pIndexX,
-                  int* pIndexY) {
-  if (AnyNull(pSrc, pMax, pIndexX, pIndexY)) return pelStatusNullPointer;
-  if (BadSize(roiSize)) return pelStatusBadSize;
-  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, nullptr, pMax, nullptr, nullptr, pIndexX, pIndexY);
+  if (kMax) return Find<T, C, kUsed>(pSrc, srcStep, roiSize, nullptr, pValue, nullptr, nullptr, pIndexX, pIndexY);
+  return Find<T, C, kUsed>(pSrc, srcStep, roiSize, pValue, nullptr, pIndexX, pIndexY, nullptr, nullptr);
 }
 
 template <class T, int C, int kUsed, bool kMax>

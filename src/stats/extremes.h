@@ -7,18 +7,15 @@
 
 namespace pel::stats {
 
-template <class T, int C, int kUsed>
-PelStatus Min(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin);
-template <class T, int C, int kUsed>
-PelStatus Max(const T* pSrc, int srcStep, PeliSize roiSize, T* pMax);
+// The minimum (kMax false) or maximum, or both, of each channel ...
+template <class T, int C, int kUsed, bool kMax>
+PelStatus Extreme(const T* pSrc, int srcStep, PeliSize roiSize, T* pValue);
 template <class T, int C, int kUsed>
 PelStatus MinMax(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin, T* pMax);
-template <class T, int C, int kUsed>
-PelStatus MinIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pMin, int* pIndexX,
-                  int* pIndexY);
-template <class T, int C, int kUsed>
-PelStatus MaxIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pMax, int* pIndexX,
-                  int* pIndexY);
+// ... and where it first occurs.
+template <class T, int C, int kUsed, bool kMax>
+PelStatus ExtremeIndx(const T* pSrc, int srcStep, PeliSize roiSize, T* pValue, int* pIndexX,
+                      int* pIndexY);
 
 // In place (srcDst keeps the lesser or greater of the two) and two-image;
 // AC4 leaves the destination's alpha alone.

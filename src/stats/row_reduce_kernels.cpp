@@ -106,13 +106,11 @@ HWY_INLINE VecOf<hn::Repartition<uint64_t, D32>> Widen32(D32 /*tag*/, VecOf<D32>
                  hn::PromoteTo(d64, hn::UpperHalf(dh, u)));
 }
 
-// 8-bit squares: pairwise multiply-add of 16-bit lanes into 32-bit lanes,
-// which gain at most 4 x 255^2 an add: 8192 adds stay far below 2^31.
-template <class D>
-struct SqU8 {
-  using D16 = hn::Repartition<int16_t, D>;
-  using D32 = hn::Repartition<int32_t, D>;
-  using D64 = hn::Repartition<uint64_t, D>;
+// 32-bit lanes that hand what they gathered on to 64-bit lanes every
+// kFlush additions, before any can overflow.
+template <class D32, uint32_t kFlush>
+struct Wide32 {
+  using D64 = hn::Repartition<uint64_t, D32>;
   VecOf<D32> s;
   VecOf<D64> wide;
   uint32_t adds;
@@ -121,53 +119,41 @@ struct SqU8 {
     wide = hn::Zero(D64());
     adds = 0;
   }
-  HWY_INLINE void Add(VecOf<D> m) {
-    const hn::Half<D> dh;
-    const auto lo = hn::PromoteTo(D16(), hn::LowerHalf(dh, m));
-    const auto hi = hn::PromoteTo(D16(), hn::UpperHalf(dh, m));
-    VecOf<D32> unused;
-    s = hn::ReorderWidenMulAccumulate(D32(), lo, lo, s, unused);
-    s = hn::ReorderWidenMulAccumulate(D32(), hi, hi, s, unused);
-    if (++adds == 8192) Flush();
-  }
-  HWY_INLINE void Flush() {
+  HWY_INLINE void Counted() {
+    if (++adds < kFlush) return;
     wide = hn::Add(wide, Widen32(D32(), s));
     s = hn::Zero(D32());
     adds = 0;
   }
-  HWY_INLINE uint64_t Total() {
-    Flush();
-    return LaneSum(D64(), wide);
+  HWY_INLINE uint64_t Total() { return LaneSum(D64(), hn::Add(wide, Widen32(D32(), s))); }
+};
+
+// 8-bit squares: pairwise multiply-add of 16-bit lanes into 32-bit lanes,
+// which gain at most 4 x 255^2 an add: 8192 adds stay far below 2^31.
+template <class D>
+struct SqU8 : Wide32<hn::Repartition<int32_t, D>, 8192> {
+  HWY_INLINE void Add(VecOf<D> m) {
+    const hn::Half<D> dh;
+    const hn::Repartition<int16_t, D> d16;
+    const hn::Repartition<int32_t, D> d32;
+    const auto lo = hn::PromoteTo(d16, hn::LowerHalf(dh, m));
+    const auto hi = hn::PromoteTo(d16, hn::UpperHalf(dh, m));
+    VecOf<decltype(d32)> unused;
+    this->s = hn::ReorderWidenMulAccumulate(d32, lo, lo, this->s, unused);
+    this->s = hn::ReorderWidenMulAccumulate(d32, hi, hi, this->s, unused);
+    this->Counted();
   }
 };
 
 // 16-bit sums: 32-bit lanes gain at most 2 x 65535 an add.
 template <class D>
-struct SumU16 {
-  using D32 = hn::Repartition<uint32_t, D>;
-  using D64 = hn::Repartition<uint64_t, D>;
-  VecOf<D32> s;
-  VecOf<D64> wide;
-  uint32_t adds;
-  HWY_INLINE void Init() {
-    s = hn::Zero(D32());
-    wide = hn::Zero(D64());
-    adds = 0;
-  }
+struct SumU16 : Wide32<hn::Repartition<uint32_t, D>, 32768> {
   HWY_INLINE void Add(VecOf<D> m) {
     const hn::Half<D> dh;
-    s = hn::Add(s, hn::Add(hn::PromoteTo(D32(), hn::LowerHalf(dh, m)),
-                           hn::PromoteTo(D32(), hn::UpperHalf(dh, m))));
-    if (++adds == 32768) Flush();
-  }
-  HWY_INLINE void Flush() {
-    wide = hn::Add(wide, Widen32(D32(), s));
-    s = hn::Zero(D32());
-    adds = 0;
-  }
-  HWY_INLINE uint64_t Total() {
-    Flush();
-    return LaneSum(D64(), wide);
+    const hn::Repartition<uint32_t, D> d32;
+    this->s = hn::Add(this->s, hn::Add(hn::PromoteTo(d32, hn::LowerHalf(dh, m)),
+                                       hn::PromoteTo(d32, hn::UpperHalf(dh, m))));
+    this->Counted();
   }
 };
 
@@ -420,19 +406,13 @@ void Dot8uT(const uint8_t* a, const uint8_t* b, size_t n, int64_t sum[4], uint64
   const hn::Half<decltype(d)> dh;
   const hn::Repartition<int16_t, decltype(d)> d16;
   const hn::Repartition<int32_t, decltype(d)> d32;
-  const hn::Repartition<uint64_t, decltype(d)> d64;
   constexpr size_t N = hn::MaxLanes(d);
   constexpr size_t kPhases = C == 3 ? 3 : 1;
   MaskOf<decltype(d)> mask[kPhases][C];
   for (size_t r = 0; r < kPhases; ++r)
     for (int c = 0; c < C; ++c) mask[r][c] = ChannelMask<C>(d, r * N, c);
-  VecOf<decltype(d32)> s[C];
-  VecOf<decltype(d64)> wide[C];
-  for (int c = 0; c < C; ++c) {
-    s[c] = hn::Zero(d32);
-    wide[c] = hn::Zero(d64);
-  }
-  uint32_t adds = 0;
+  Wide32<std::remove_const_t<decltype(d32)>, 8192> acc[C];
+  for (auto& x : acc) x.Init();
   auto add = [&](size_t r, size_t at) HWY_ATTR {
     const auto va = hn::LoadU(d, a + at);
     const auto vb = hn::LoadU(d, b + at);
@@ -441,15 +421,9 @@ void Dot8uT(const uint8_t* a, const uint8_t* b, size_t n, int64_t sum[4], uint64
     for (int c = 0; c < C; ++c) {
       const auto ac = C == 1 ? va : hn::IfThenElseZero(mask[r][c], va);
       VecOf<decltype(d32)> unused;
-      s[c] = hn::ReorderWidenMulAccumulate(d32, hn::PromoteTo(d16, hn::LowerHalf(dh, ac)), blo, s[c], unused);
-      s[c] = hn::ReorderWidenMulAccumulate(d32, hn::PromoteTo(d16, hn::UpperHalf(dh, ac)), bhi, s[c], unused);
-    }
-    if (++adds == 8192) {
-      for (int c = 0; c < C; ++c) {
-        wide[c] = hn::Add(wide[c], Widen32(d32, s[c]));
-        s[c] = hn::Zero(d32);
-      }
-      adds = 0;
+      acc[c].s = hn::ReorderWidenMulAccumulate(d32, hn::PromoteTo(d16, hn::LowerHalf(dh, ac)), blo, acc[c].s, unused);
+      acc[c].s = hn::ReorderWidenMulAccumulate(d32, hn::PromoteTo(d16, hn::UpperHalf(dh, ac)), bhi, acc[c].s, unused);
+      acc[c].Counted();
     }
   };
   size_t i = 0;
@@ -457,7 +431,7 @@ void Dot8uT(const uint8_t* a, const uint8_t* b, size_t n, int64_t sum[4], uint64
     for (size_t r = 0; r < kPhases; ++r) add(r, i + r * N);
   for (size_t r = 0; i + N <= n; ++r, i += N) add(r, i);
   for (int c = 0; c < C; ++c) {
-    const uint64_t t = LaneSum(d64, hn::Add(wide[c], Widen32(d32, s[c])));
+    const uint64_t t = acc[c].Total();
     sum[c] += static_cast<int64_t>(t);
     mag[c] += t;
   }

@@ -243,10 +243,9 @@ PelStatus SumImpl(const T* pSrc, int srcStep, PeliSize roi, Pel64f* pSum, PelHin
 // divides by it; more channels multiply by its reciprocal.
 template <class T, int C>
 PelStatus MeanImpl(const T* pSrc, int srcStep, PeliSize roi, Pel64f* pMean, PelHintAlgorithm hint) {
-  if (AnyNull(pSrc, pMean)) return pelStatusNullPointer;
-  if (BadSize(roi)) return pelStatusBadSize;
   double out[4];
-  Sums(pSrc, srcStep, roi, C, hint, out);
+  const PelStatus status = SumImpl<T, C>(pSrc, srcStep, roi, pMean ? out : nullptr, hint);
+  if (status != pelStatusOk) return status;
   const auto count = static_cast<int32_t>(static_cast<uint32_t>(roi.width) * static_cast<uint32_t>(roi.height));
   const double reciprocal = 1.0 / count;
   for (int c = 0; c < C; ++c) pMean[c] = C == 1 ? out[c] / count : out[c] * reciprocal;
