@@ -57,13 +57,21 @@ PelStatus DotProd(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Pe
   if (BadSize(roiSize) || src1Step == 0 || src2Step == 0) return pelStatusBadSize;
   constexpr bool kNarrowInteger = sizeof(T) <= 2;
   double total[4] = {};
-  for (int y = 0; y < roiSize.height; ++y) {
+  // Integer rows that follow each other without a gap in both images are
+  // one row: its order is the same, and so is the bound on its totals.
+  int width = roiSize.width, rows = roiSize.height;
+  const int64_t rowBytes = int64_t(width) * C * int64_t(sizeof(T));
+  if (kNarrowInteger && src1Step == rowBytes && src2Step == rowBytes && rowBytes * rows <= INT32_MAX) {
+    width *= rows;
+    rows = 1;
+  }
+  for (int y = 0; y < rows; ++y) {
     const T* a = Row(pSrc1, src1Step, y);
     const T* b = Row(pSrc2, src2Step, y);
     if constexpr (kNarrowInteger) {
-      IntegerRow<T, C, kUsed>(a, b, roiSize.width, total);
+      IntegerRow<T, C, kUsed>(a, b, width, total);
     } else {
-      SequentialRow<T, C, kUsed>(a, b, roiSize.width, total);
+      SequentialRow<T, C, kUsed>(a, b, width, total);
     }
   }
   for (int c = 0; c < kUsed; ++c) pDp[c] = total[c];
