@@ -174,6 +174,7 @@ void AddOne(std::vector<Row>& rows, const char* name, F fn, int C, Stat s) {
     if (norm) src.step = StepRule::Positive;
     Row r{name, kHint ? "hint" + std::to_string(hint) : "", {src, Results<double>(C)},
           [fn, hint](Call& c) {
+            (void)hint;
             if constexpr (kHint) return fn(c.p<T>(0), c.step(0), c.roi, c.p<double>(1), hint);
             else return fn(c.p<T>(0), c.step(0), c.roi, c.p<double>(1));
           },
@@ -207,6 +208,7 @@ void AddTwo(std::vector<Row>& rows, const char* name, F fn, int C, Stat s, bool 
       if (std::is_same_v<T, float> && s == Stat::Inf && hint == 0 && !zero) a.fill = b.fill = FillSpecial();
       Row r{name, (kHint ? "hint" + std::to_string(hint) : "") + (zero ? "zero" : ""), {a, b, Results<double>(C)},
             [fn, hint](Call& c) {
+              (void)hint;
               if constexpr (kHint) return fn(c.p<T>(0), c.step(0), c.p<T>(1), c.step(1), c.roi, c.p<double>(2), hint);
               else return fn(c.p<T>(0), c.step(0), c.p<T>(1), c.step(1), c.roi, c.p<double>(2));
             },
@@ -451,6 +453,7 @@ void AddHistogram(std::vector<Row>& rows, const char* name, F fn, int C) {
       for (int c = 0; c < C; ++c) args.push_back(Results<Pel32u>(L.n(c) - 1));
       Row r{name, std::string(L.uniform ? "uniform" : "levels") + (bad ? "bad" : ""), args,
             [fn, C](Call& c) {
+              (void)C;
               const auto* s = reinterpret_cast<const PeliHistogramSpec*>(c.p<Pel8u>(1));
               if constexpr (std::is_invocable_v<F, const T*, int, PeliSize, Pel32u*, const PeliHistogramSpec*, Pel8u*>)
                 return fn(c.p<T>(0), c.step(0), c.roi, c.p<Pel32u>(3), s, c.p<Pel8u>(2));
