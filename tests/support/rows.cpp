@@ -90,9 +90,10 @@ Fill FillRange(double lo, double hi) {
 
 namespace {
 
-bool ChecksSteps(const Row& row) {
-  return std::find(row.order.begin(), row.order.end(), Check::Steps) != row.order.end();
+bool Checks(const Row& row, Check c) {
+  return std::find(row.order.begin(), row.order.end(), c) != row.order.end();
 }
+bool ChecksSteps(const Row& row) { return Checks(row, Check::Steps); }
 
 int FirstImageChannels(const Row& row) {
   for (const Arg& a : row.args)
@@ -130,7 +131,7 @@ std::vector<Layout> LayoutsFor(const Row& row, const Layout& shape) {
       }
     }
     l.offsetBytes += 4 * e * inGroup;
-    if (positiveSteps && a.step != StepRule::None) l.bottomUp = false;
+    if (positiveSteps && (a.step == StepRule::Positive || a.step == StepRule::RowBytes)) l.bottomUp = false;
     if (shape.fence != Fence::None) {
       l = Layout{s.width, s.height, a.channels, 0, 0, false, shape.fence};
       l.trimBytes = a.unusedTail * e;
@@ -214,7 +215,13 @@ void RunRowOn(const Row& row, const std::vector<Layout>& layouts, PeliSize roi, 
     model.before = &before;
     model.after = &want;
     model.args = &args;
+    model.called = &images;
     wantStatus = row.model(model);
+  }
+  for (size_t k = 0; k < args.size(); ++k) {
+    if (!args[k].scratch || status < 0) continue;
+    const size_t bytes = size_t(args[k].count) * args[k].type.bytes;
+    std::memcpy(want[k].bytesAt(0, 0), images[k].bytesAt(0, 0), bytes);
   }
   const std::string shape = std::to_string(roi.width) + "x" + std::to_string(roi.height);
   EXPECT_EQ(status, wantStatus) << "status of " << row.name << " " << row.variant << " on " << shape;
@@ -248,7 +255,7 @@ PelStatus StatusOf(Check c, const Row& row) {
   switch (c) {
     case Check::Pointers: return pelStatusNullPointer;
     case Check::Sizes: return pelStatusBadSize;
-    case Check::Steps: return pelStatusBadStep;
+    case Check::Steps: return row.badStepStatus;
     case Check::LatePointers: return pelStatusNullPointer;
     case Check::Param: return row.expect;
   }
@@ -287,6 +294,8 @@ void SweepRow(const Row& row) {
   }
 
   const bool paramBad = row.expect != pelStatusOk;
+  // The check that failed last, for results zeroed by the checks before it.
+  Check failedAt = Check::Pointers;
   // Which check a NULL slot trips: plane arrays and most arguments are
   // pointers, latePointer arguments late pointers.
   auto late = [&](int slot) { return slot >= 0 && args[slot].latePointer; };
@@ -294,19 +303,24 @@ void SweepRow(const Row& row) {
     for (Check c : row.order) {
       if ((c == Check::Pointers && ptr) || (c == Check::LatePointers && latePtr) || (c == Check::Sizes && size) ||
           (c == Check::Steps && step) || (c == Check::Param && paramBad)) {
+        failedAt = c;
         return StatusOf(c, row);
       }
     }
     ADD_FAILURE() << row.name << ": a broken argument that no check in the row's order catches";
     return pelStatusOk;
   };
+  auto position = [&](Check c) { return std::find(row.order.begin(), row.order.end(), c) - row.order.begin(); };
   auto untouched = [&](const std::string& what) {
     for (size_t k = 0; k < images.size(); ++k) {
-      if (images[k].bytes() != before[k].bytes()) {
+      const bool zeroed = args[k].zeroedAfter && position(failedAt) > position(*args[k].zeroedAfter);
+      AnyImage want = before[k];
+      if (zeroed) std::memset(want.bytesAt(0, 0), 0, size_t(args[k].count) * args[k].type.bytes);
+      if (images[k].bytes() != want.bytes()) {
         ADD_FAILURE() << row.name << ", " << what << ": " << ArgName(row, k)
-                      << " was written by a call that failed";
-        images[k] = before[k];
+                      << (zeroed ? " was not zeroed by" : " was written by") << " a call that failed";
       }
+      if (zeroed || images[k].bytes() != want.bytes()) images[k] = before[k];
     }
   };
 
@@ -320,7 +334,8 @@ void SweepRow(const Row& row) {
     for (size_t k = 0; k < args.size(); ++k) {
       if (args[k].step == StepRule::None || args[k].count > 0) continue;
       const int rowBytes = images[k].layout().width * args[k].channels * args[k].type.bytes;
-      std::vector<int> values{INT_MIN /* zero */, -images[k].step()};
+      std::vector<int> values{INT_MIN /* zero */};
+      if (args[k].step != StepRule::NonZero) values.push_back(-images[k].step());
       if (args[k].step == StepRule::RowBytes) values.push_back(rowBytes - 1);
       for (int v : values) {
         if (v == 0) continue;
@@ -349,6 +364,7 @@ void SweepRow(const Row& row) {
     }
   }
   for (const PeliSize& s : badSizes) {
+    if (!Checks(row, Check::Sizes)) break;
     const std::string what = "size " + std::to_string(s.width) + "x" + std::to_string(s.height);
     EXPECT_EQ(run(-1000000, s, {}, nullptr), expected(false, true, false)) << row.name << ", " << what;
     untouched(what);

@@ -22,6 +22,7 @@
 #include <cstring>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <random>
 #include <string>
 #include <type_traits>
@@ -48,18 +49,24 @@ constexpr ElemType ElemOf() {
 
 enum class Use { In, Out, InOut };
 
-// Which steps an export checks, and against what.
-enum class StepRule { None, Positive, RowBytes };
+// Which steps an export checks, and against what (NonZero: only a zero step
+// is refused; negative steps walk upwards).
+enum class StepRule { None, Positive, RowBytes, NonZero };
 
 class AnyView;
 using Fill = std::function<void(AnyView&, std::mt19937&)>;
+
+// Pointers: NULL -> -8; Sizes: width or height below 1 -> -6; Steps: a step
+// below its StepRule -> the row's badStepStatus (-16); LatePointers: a NULL
+// latePointer argument -> -8; Param: the row's own `expect` status.
+enum class Check { Pointers, Sizes, Steps, LatePointers, Param };
 
 struct Arg {
   ElemType type{1, 'u'};
   int channels = 1;
   Use use = Use::In;
   // Size of the image from the call's ROI; empty: the ROI itself.
-  std::function<PeliSize(PeliSize)> size;
+  std::function<PeliSize(PeliSize)> size{};
   // > 0: a fixed array of this many elements (constants, results), not an
   // image shaped by the ROI.
   int count = 0;
@@ -70,7 +77,7 @@ struct Arg {
   bool byValue = false;
   StepRule step = StepRule::None;
   // How elements are filled; empty: random bits, finite floats.
-  Fill fill;
+  Fill fill{};
   // Elements at the end of the image that the export must not touch, not
   // even read (a channel form ends at its channel of the last pixel); the
   // fenced shapes cut them off.
@@ -78,6 +85,12 @@ struct Arg {
   // Its NULL pointer is caught at Check::LatePointers (after other checks)
   // rather than with the other pointers.
   bool latePointer = false;
+  // A work buffer: what the export leaves in it is its own business (the
+  // bytes around it are still checked, and a failing call must not write it).
+  bool scratch = false;
+  // A result the export sets to zero once this check has passed: a call that
+  // fails at a later check leaves zeros in it.
+  std::optional<Check> zeroedAfter{};
 };
 
 // Member by member: a partial aggregate initializer warns with -Wextra.
@@ -218,17 +231,19 @@ class Model {
     return View<T>(AnyView(&(*after)[arg], (*args)[arg].type, (*args)[arg].channels));
   }
 
+  // Where the export saw element (x, y, c) of argument `arg`, for results
+  // that depend on addresses (alignment).
+  uintptr_t address(int arg, int x, int y, int c = 0) const {
+    return reinterpret_cast<uintptr_t>((*called)[arg].bytesAt(x, y, c));
+  }
+
   std::vector<AnyImage>* before = nullptr;
   std::vector<AnyImage>* after = nullptr;
   std::vector<Arg>* args = nullptr;
+  std::vector<AnyImage>* called = nullptr;
 };
 
 // ---- Rows ---------------------------------------------------------------------
-
-// Pointers: NULL -> -8; Sizes: width or height below 1 -> -6; Steps: a step
-// below its StepRule -> -16; LatePointers: a NULL latePointer argument -> -8;
-// Param: the row's own `expect` status.
-enum class Check { Pointers, Sizes, Steps, LatePointers, Param };
 
 struct Row {
   std::string name;     // the export
@@ -238,13 +253,15 @@ struct Row {
   // Writes the expected outputs and returns the expected status.
   std::function<PelStatus(Model&)> model;
   // The checks the export makes, in its order. Steps are swept only when
-  // present (and then only for arguments whose StepRule is not None).
+  // present (and then only for arguments whose StepRule is not None), bad
+  // sizes only when Sizes is (set-up functions without a ROI leave it out).
   std::vector<Check> order{Check::Pointers, Check::Sizes};
+  PelStatus badStepStatus = pelStatusBadStep;
   // Not Ok: a bad-parameter row, which must fail with this status.
   PelStatus expect = pelStatusOk;
   // Shapes to run on (the ROI of the call); empty: AwkwardLayouts(channels of
   // the first image argument).
-  std::vector<Layout> shapes;
+  std::vector<Layout> shapes{};
   // The shape of the bad-argument sweep; width 0: 9x4.
   Layout sweepShape{0, 0};
   // Seeds the random contents; rows of one export may differ in it.
