@@ -81,21 +81,29 @@ struct Arg {
 };
 
 template <class T>
+Arg MakeArg(int channels, Use use) {
+  Arg a;
+  a.type = ElemOf<T>();
+  a.channels = channels;
+  a.use = use;
+  return a;
+}
+template <class T>
 Arg In(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::In};
+  return MakeArg<T>(channels, Use::In);
 }
 template <class T>
 Arg Out(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::Out};
+  return MakeArg<T>(channels, Use::Out);
 }
 template <class T>
 Arg InOut(int channels = 1) {
-  return Arg{ElemOf<T>(), channels, Use::InOut};
+  return MakeArg<T>(channels, Use::InOut);
 }
 // An array of `count` constants the export reads through a pointer.
 template <class T>
 Arg Consts(int count) {
-  Arg a{ElemOf<T>(), 1, Use::In};
+  Arg a = MakeArg<T>(1, Use::In);
   a.count = count;
   return a;
 }
@@ -109,7 +117,7 @@ Arg Value() {
 // An array of `count` results the export writes.
 template <class T>
 Arg Results(int count) {
-  Arg a{ElemOf<T>(), 1, Use::Out};
+  Arg a = MakeArg<T>(1, Use::Out);
   a.count = count;
   return a;
 }
@@ -170,6 +178,19 @@ class Call {
     std::memcpy(&value, Element(arg, i), sizeof(T));
     return value;
   }
+  // A pointer the call makes itself (a spec, a work buffer): the sweep sets
+  // it NULL in turn like the arguments' pointers; `id` tells several apart.
+  template <class T>
+  T* own(int id, T* pointer) {
+    return Take(kOwnSlot + id) ? nullptr : pointer;
+  }
+  // The pointer of argument `arg` for the call's own use, never set NULL (an
+  // array the call copies results into).
+  template <class T>
+  T* unswept(int arg) {
+    return reinterpret_cast<T*>((*images)[arg].first());
+  }
+  static constexpr int kOwnSlot = 1000;
   // An array of plane pointers for the given arguments (itself a pointer the
   // sweep sets to NULL).
   template <class T>
@@ -219,8 +240,11 @@ class Model {
 
 // Pointers: NULL -> -8; Sizes: width or height below 1 -> -6; Steps: a step
 // below its StepRule -> -16; LatePointers: a NULL latePointer argument -> -8;
-// Param: the row's own `expect` status.
-enum class Check { Pointers, Sizes, Steps, LatePointers, Param };
+// Param: the row's own `expect` status; ZeroSizes: a width or height of 0 ->
+// the warning pelStatusNoOperation (1), for exports that treat an empty size
+// as nothing to do (Sizes then covers negative sizes only). Sizes are swept
+// only when the order has Sizes or ZeroSizes.
+enum class Check { Pointers, Sizes, Steps, LatePointers, Param, ZeroSizes };
 
 struct Row {
   std::string name;     // the export
