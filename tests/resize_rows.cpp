@@ -108,11 +108,12 @@ const Variant kDown{"down", 9, 6, 5, 3, 2.6, 1.7, pelBorderMirror, 0};
 const Variant kMemory{"memory", 7, 5, 4, 2, 0.77, 1.37, pelBorderInMem, 1};
 const Variant kSides{"sides", 3, 4, 2, 3, 1.45, 0.5, 4 | pelBorderInMemTop | pelBorderInMemLeft, 1};
 const Variant kLongRows{"tile", 11, 2, 6, 1, 1.3, 0.8, pelBorderMirror | pelBorderInMemRight | pelBorderInMemBottom, 1};
+const Variant kHalve{"halve", 4, 2, 3, 1, 2.0, 2.0, pelBorderReplicate, 0};
 const Variant kLarger{"larger", -3, -2, 0, 0, 1.5, 0.7, pelBorderReplicate, 0};
 
 template <class T>
 void AddLinear(std::vector<Row>& rows, const std::string& name, int C, Process<T> fn, bool L) {
-  for (const Variant& v : L ? std::vector<Variant>{kLongRows} : std::vector<Variant>{kUp, kDown, kMemory, kSides})
+  for (const Variant& v : L ? std::vector<Variant>{kLongRows} : std::vector<Variant>{kUp, kDown, kMemory, kSides, kHalve})
     AddProcessing<T>(rows, name, C, fn, true, L, v);
 }
 

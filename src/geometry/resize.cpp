@@ -1,6 +1,8 @@
 #include "geometry/resize.h"
 
+#include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 
@@ -80,10 +82,19 @@ void NearestTile(const TileCall& c, const ResizeSpecView& s) {
   cols.tap = tap;
   const size_t rowBytes = width * size_t(cols.pixelBytes);
   if (ResizeKernelsUsePlans()) {
-    const int pb = cols.pixelBytes;
+    const auto pb = intptr_t(cols.pixelBytes);
+    const auto [first, last] = std::minmax_element(tap, tap + width);
     cols.plan = BuildGatherPlan(
-        rowBytes, kNearestPlanWindows,
-        [&](size_t k) { return intptr_t(tap[k / pb]) * pb + intptr_t(k % pb); }, c.buffer + l.columns);
+        rowBytes, kNearestPlanWindows, *first * pb, *last * pb + pb - 1,
+        [&](size_t k, intptr_t* src) {
+          size_t x = k / size_t(pb);
+          intptr_t r = intptr_t(k % size_t(pb));
+          for (int i = 0; i < 16; ++i) {
+            src[i] = tap[x] * pb + r;
+            if (++r == pb) r = 0, ++x;
+          }
+        },
+        c.buffer + l.columns);
   }
   // Destination rows that read the same source row as the row before are
   // copies of it.
@@ -102,70 +113,60 @@ void NearestTile(const TileCall& c, const ResizeSpecView& s) {
 
 // ---- Linear ------------------------------------------------------------------------
 
-// Plans and per-element weights for the vector kernels.
+// The plan and per-element weights of the vector kernels: element e's two
+// taps side by side, with its weight pair (Q14 pairs for the integer types,
+// the fractions as floats for 32f).
 void PlanLinear(LinearColumns& cols, const ResizeBufferLayout& l, uint8_t* buffer) {
-  const int C = cols.channels;
-  const size_t n = cols.width * size_t(C);
+  const auto C = size_t(cols.channels);
+  const size_t n = cols.width * C;
   uint8_t* weights = buffer + l.columns;
-  uint8_t* plans = buffer + l.columns + l.elementData;
-  const int eb = ElemBytes(cols.elem);
-  // Source byte of element e's tap.
-  auto tapByte = [&](const int32_t* tap, size_t e) {
-    return (intptr_t(tap[e / size_t(C)]) * C + intptr_t(e % size_t(C))) * eb;
-  };
-  switch (cols.elem) {
-    case ResizeElem::k8u: {
-      auto* w = reinterpret_cast<int16_t*>(weights);
-      for (size_t e = 0; e < n; ++e) {
-        w[2 * e] = cols.weight[2 * (e / size_t(C))];
-        w[2 * e + 1] = cols.weight[2 * (e / size_t(C)) + 1];
-      }
-      // (p0, 0, p1, 0) per element: pairs of zero-extended taps.
-      cols.plan0 = BuildGatherPlan(
-          4 * n, kLinearPlanWindows,
-          [&](size_t k) -> intptr_t {
-            if (k % 2) return kZeroByte;
-            return tapByte(k % 4 ? cols.tap1 : cols.tap0, k / 4);
-          },
-          plans);
-      break;
+  const auto eb = size_t(ElemBytes(cols.elem));
+  for (size_t e = 0; e < n; ++e) {
+    const int16_t* w = cols.weight + 2 * (e / C);
+    if (cols.elem == ResizeElem::k32f) {
+      const float a[2] = {float(w[0]) * float(1.0 / 16384), float(w[1]) * float(1.0 / 16384)};
+      std::memcpy(weights + 8 * e, a, 8);
+    } else {
+      std::memcpy(weights + 4 * e, w, 4);
     }
-    case ResizeElem::k16u:
-    case ResizeElem::k16s:
-    case ResizeElem::k32f: {
-      const bool f = cols.elem == ResizeElem::k32f;
-      auto* w = reinterpret_cast<uint32_t*>(weights);
-      for (size_t e = 0; e < n; ++e) {
-        const int w0 = cols.weight[2 * (e / size_t(C))], w1 = cols.weight[2 * (e / size_t(C)) + 1];
-        if (f) {
-          const float a0 = float(w0) * float(1.0 / 16384), a1 = float(w1) * float(1.0 / 16384);
-          std::memcpy(w + e, &a0, 4);
-          std::memcpy(w + n + e, &a1, 4);
-        } else {
-          w[e] = uint32_t(w0);
-          w[n + e] = uint32_t(w1);
-        }
-      }
-      // Four bytes an element: the float, or the 16-bit value zero-extended.
-      const uint64_t planBytes = RoundUp64(PlanBytes(4 * n, kLinearPlanWindows));
-      for (int t = 0; t < 2; ++t) {
-        const int32_t* tap = t ? cols.tap1 : cols.tap0;
-        GatherPlan p = BuildGatherPlan(
-            4 * n, kLinearPlanWindows,
-            [&](size_t k) -> intptr_t {
-              if (size_t(eb) <= k % 4) return kZeroByte;
-              return tapByte(tap, k / 4) + intptr_t(k % 4);
-            },
-            plans + t * planBytes);
-        (t ? cols.plan1 : cols.plan0) = p;
-      }
-      // Both plans or none.
-      if (cols.plan0.blocks == 0 || cols.plan1.blocks == 0) cols.plan0 = cols.plan1 = GatherPlan{};
-      break;
-    }
-    case ResizeElem::k64f: break;
   }
   cols.elementWeights = weights;
+  if (cols.elem == ResizeElem::k64f) return;
+  intptr_t lo = INTPTR_MAX, hi = INTPTR_MIN;
+  for (size_t x = 0; x < cols.width; ++x) {
+    lo = std::min<intptr_t>(lo, std::min(cols.tap0[x], cols.tap1[x]));
+    hi = std::max<intptr_t>(hi, std::max(cols.tap0[x], cols.tap1[x]));
+  }
+  const auto pixel = intptr_t(C * eb);
+  cols.plan = BuildGatherPlan(
+      2 * eb * n, kLinearPlanWindows, lo * pixel, hi * pixel + pixel - 1,
+      [&](size_t k, intptr_t* src) {
+        // Element e = (x, c), byte `within` of its (tap0, tap1) pair.
+        const size_t e = k / (2 * eb);
+        size_t within = k % (2 * eb), x = e / C, c = e % C;
+        for (int i = 0; i < 16; ++i) {
+          const bool second = within >= eb;
+          src[i] = (intptr_t((second ? cols.tap1 : cols.tap0)[x]) * intptr_t(C) + intptr_t(c)) * intptr_t(eb) +
+                   intptr_t(second ? within - eb : within);
+          if (++within == 2 * eb) {
+            within = 0;
+            if (++c == C) c = 0, ++x;
+          }
+        }
+      },
+      buffer + l.columns + l.elementData);
+}
+
+// Whether every column averages two neighbouring source pixels with equal
+// weights (an exact reduction by 2): such rows need no lookups.
+bool HalvesColumns(const LinearColumns& cols) {
+  for (size_t x = 0; x < cols.width; ++x) {
+    if (cols.tap0[x] != cols.tap0[0] + 2 * int32_t(x) || cols.tap1[x] != cols.tap0[x] + 1 ||
+        cols.weight[2 * x] != 8192 || cols.weight[2 * x + 1] != 8192) {
+      return false;
+    }
+  }
+  return true;
 }
 
 // Two lines of the horizontal pass, each tagged with the source row it holds,
@@ -211,6 +212,7 @@ void LinearTile(const TileCall& c, const ResizeSpecView& s, int border) {
   cols.tap1 = tap1;
   cols.weight = s.x.weight + 2 * c.tile.x;
   if (ResizeKernelsUsePlans()) PlanLinear(cols, l, c.buffer);
+  cols.halving = HalvesColumns(cols);
 
   const uint64_t lineBytes = l.lines / 2;
   LineCache lines{{c.buffer + l.columns + l.elementData + l.plans,

@@ -112,9 +112,8 @@ inline uint64_t ResizeBufferLayoutFor(bool linear, uint64_t width, uint64_t chan
   if (linear) {
     l->columns = RoundUp64(8 * width);
     l->elementData = RoundUp64(8 * n);
-    // 8-bit taps gather into one plan of (p0, p1) pairs; wider ones into a
-    // plan per tap, four bytes an element.
-    l->plans = 2 * RoundUp64(PlanBytes(4 * n, kLinearPlanWindows));
+    // One plan of (p0, p1) pairs, up to 8 bytes an element.
+    l->plans = RoundUp64(PlanBytes(8 * n, kLinearPlanWindows));
     l->lines = 2 * RoundUp64(n * (elemBytes == 8 ? 8 : 4));
   } else {
     l->columns = RoundUp64(4 * width);

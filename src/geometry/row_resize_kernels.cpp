@@ -43,82 +43,250 @@ void LinearVerticalTarget(ResizeElem elem, const void* upper, const void* lower,
 
 bool UsePlansTarget() { return true; }
 
-using D8 = hn::Full128<uint8_t>;
+// A plan's fields in locals, which stores through the kernels' outputs
+// cannot change.
+struct Plan {
+  const intptr_t* offsets;
+  const uint8_t* patterns;
+  size_t stride, blocks, whole, outBytes;
+  bool contiguous;
+  explicit Plan(const GatherPlan& p)
+      : offsets(p.offsets), patterns(p.patterns), stride(p.stride), blocks(p.blocks), whole(p.WholeBlocks()),
+        outBytes(p.outBytes), contiguous(p.contiguous) {}
+  size_t BlockStart(size_t b) const { return std::min(16 * b, outBytes - 16); }
+};
 
-// Output block b of a plan: the OR of its windows' shuffles.
-HWY_INLINE hn::Vec128<uint8_t> Gather(const GatherPlan& p, const uint8_t* src, size_t b) {
-  const D8 d;
-  const size_t w = size_t(p.windows);
-  const intptr_t* off = p.offsets + b * w;
-  const uint8_t* pat = p.patterns + b * w * 16;
-  auto acc = hn::TableLookupBytesOr0(hn::LoadU(d, src + off[0]), hn::LoadU(d, pat));
-  for (size_t j = 1; j < w; ++j) {
-    acc = hn::Or(acc, hn::TableLookupBytesOr0(hn::LoadU(d, src + off[j]), hn::LoadU(d, pat + 16 * j)));
+// The 16-byte windows at src + off[k], one in each 128-bit block of a vector.
+template <class D>
+HWY_INLINE hn::VFromD<D> LoadWindows(D d, const uint8_t* src, const intptr_t* off) {
+  if constexpr (hn::MaxLanes(d) == 64) {
+    const hn::Half<D> d2;
+    const hn::Half<decltype(d2)> d1;
+    return hn::Combine(d, hn::Combine(d2, hn::LoadU(d1, src + off[3]), hn::LoadU(d1, src + off[2])),
+                       hn::Combine(d2, hn::LoadU(d1, src + off[1]), hn::LoadU(d1, src + off[0])));
+  } else if constexpr (hn::MaxLanes(d) == 32) {
+    const hn::Half<D> d1;
+    return hn::Combine(d, hn::LoadU(d1, src + off[1]), hn::LoadU(d1, src + off[0]));
+  } else {
+    return hn::LoadU(d, src + off[0]);
+  }
+}
+
+// Output blocks b, b + 1, ... (one a 128-bit block of the vector): the OR of
+// their windows' shuffles. kWindows 0: the plan's count, at run time; -1:
+// one window a block, contiguous.
+template <int kWindows, class D>
+HWY_INLINE hn::VFromD<D> Gather(D d, const Plan& p, int windows, const uint8_t* src, size_t b) {
+  if constexpr (kWindows < 0) {
+    const intptr_t at = b < p.whole ? p.offsets[0] + intptr_t(16 * b) : p.offsets[b];  // the last block overlaps
+    return hn::TableLookupBytesOr0(hn::LoadU(d, src + at), hn::LoadU(d, p.patterns + 16 * b));
+  }
+  const int w = kWindows ? kWindows : windows;
+  auto acc = hn::TableLookupBytesOr0(LoadWindows(d, src, p.offsets + b), hn::LoadU(d, p.patterns + 16 * b));
+  for (int j = 1; j < w; ++j) {
+    const size_t k = size_t(j) * p.stride + b;
+    acc = hn::Or(acc, hn::TableLookupBytesOr0(LoadWindows(d, src, p.offsets + k), hn::LoadU(d, p.patterns + 16 * k)));
   }
   return acc;
 }
 
-void NearestRowTarget(const NearestColumns& cols, const uint8_t* src, uint8_t* dst) {
-  const GatherPlan& p = cols.plan;
-  if (p.blocks == 0) return scalar::NearestRow(cols, src, dst);
-  const D8 d;
-  for (size_t b = 0; b < p.blocks; ++b) hn::StoreU(Gather(p, src, b), d, dst + p.BlockStart(b));
+// Runs body(d, b, outByte) over a plan's blocks: whole vectors of
+// consecutive blocks, then the rest one block at a time.
+template <class Body>
+HWY_INLINE void ForEachGroup(const Plan& p, Body body) {
+  const hn::ScalableTag<uint8_t> d;
+  constexpr size_t kGroup = hn::MaxLanes(d) / 16;
+  size_t b = 0;
+  for (; b + kGroup <= p.whole; b += kGroup) body(d, b, 16 * b);
+  const hn::Full128<uint8_t> d1;
+  for (; b < p.blocks; ++b) body(d1, b, p.BlockStart(b));
 }
 
-// ---- Horizontal pass: four elements a block ---------------------------------------
+template <int kWindows>
+void NearestPlanned(const Plan& p, int windows, const uint8_t* src, uint8_t* dst) {
+  ForEachGroup(p, [&](auto d, size_t b, size_t at) { hn::StoreU(Gather<kWindows>(d, p, windows, src, b), d, dst + at); });
+}
 
-// 8u: the plan gives (p0, p1) as 16-bit pairs, which one multiply-add of
-// pairs turns into p0 w0 + p1 w1.
-void Horizontal8u(const LinearColumns& cols, const uint8_t* src, uint16_t* line) {
-  const GatherPlan& p = cols.plan0;
-  const hn::Full128<int16_t> d16;
-  const hn::Full128<int32_t> d32;
-  const hn::Full64<uint16_t> dh;
-  const auto* w = static_cast<const int16_t*>(cols.elementWeights);
-  for (size_t b = 0; b < p.blocks; ++b) {
-    const size_t e = p.BlockStart(b) / 4;
-    auto unused = hn::Zero(d32);
-    const auto sum = hn::ReorderWidenMulAccumulate(d32, hn::BitCast(d16, Gather(p, src, b)),
-                                                   hn::LoadU(d16, w + 2 * e), hn::Zero(d32), unused);
-    hn::StoreU(hn::DemoteTo(dh, hn::ShiftRight<8>(sum)), dh, line + e);
+void NearestRowTarget(const NearestColumns& cols, const uint8_t* src, uint8_t* dst) {
+  const Plan p(cols.plan);
+  switch (cols.plan.windows) {
+    case 0: return scalar::NearestRow(cols, src, dst);
+    case 1: return p.contiguous ? NearestPlanned<-1>(p, 1, src, dst) : NearestPlanned<1>(p, 1, src, dst);
+    case 2: return NearestPlanned<2>(p, 2, src, dst);
+    default: return NearestPlanned<0>(p, cols.plan.windows, src, dst);
   }
 }
 
-// 16u and 16s: zero-extended taps (16s moved by 32768), 32-bit arithmetic.
+// ---- Horizontal pass: each element's two taps side by side ----------------------
+
+// 8u: (p0, p1) byte pairs, widened to 16 bits, times (w0, w1) in one
+// multiply-add of pairs.
+template <int kWindows>
+void Horizontal8u(const LinearColumns& cols, const uint8_t* src, uint16_t* line) {
+  const Plan p(cols.plan);
+  const int windows = cols.plan.windows;
+  const auto* w = static_cast<const int16_t*>(cols.elementWeights);
+  ForEachGroup(p, [&](auto d8, size_t b, size_t at) {
+    const hn::Half<decltype(d8)> dh;
+    const hn::Repartition<uint16_t, decltype(d8)> du;
+    const hn::Repartition<int16_t, decltype(d8)> d16;
+    const hn::Repartition<int32_t, decltype(d8)> d32;
+    const hn::Rebind<uint16_t, decltype(d32)> dn;
+    const size_t e = at / 2, half = hn::Lanes(d32);
+    const auto pairs = Gather<kWindows>(d8, p, windows, src, b);
+    const auto lo = hn::BitCast(d16, hn::PromoteTo(du, hn::LowerHalf(dh, pairs)));
+    const auto hi = hn::BitCast(d16, hn::PromoteTo(du, hn::UpperHalf(dh, pairs)));
+    auto unused = hn::Zero(d32);
+    const auto s0 = hn::ReorderWidenMulAccumulate(d32, lo, hn::LoadU(d16, w + 2 * e), hn::Zero(d32), unused);
+    const auto s1 = hn::ReorderWidenMulAccumulate(d32, hi, hn::LoadU(d16, w + 2 * (e + half)), hn::Zero(d32), unused);
+    hn::StoreU(hn::DemoteTo(dn, hn::ShiftRight<8>(s0)), dn, line + e);
+    hn::StoreU(hn::DemoteTo(dn, hn::ShiftRight<8>(s1)), dn, line + e + half);
+  });
+}
+
+// 16u and 16s: the multiply-add of pairs is signed, so 16u taps move down by
+// 32768 (16s taps are signed already) and the sum moves back up by 32768 x
+// 16384, the weights' total: the result is that of the values plus 32768.
 template <bool kSigned>
 void Horizontal16(const LinearColumns& cols, const uint8_t* src, uint32_t* line) {
-  const hn::Full128<uint32_t> d;
-  const size_t n = cols.width * size_t(cols.channels);
-  const auto* w0 = static_cast<const uint32_t*>(cols.elementWeights);
-  const uint32_t* w1 = w0 + n;
-  const auto bias = hn::Set(d, kSigned ? 0x8000u : 0u);
-  const auto half = hn::Set(d, 2048u);
-  for (size_t b = 0; b < cols.plan0.blocks; ++b) {
-    const size_t e = cols.plan0.BlockStart(b) / 4;
-    const auto p0 = hn::Xor(hn::BitCast(d, Gather(cols.plan0, src, b)), bias);
-    const auto p1 = hn::Xor(hn::BitCast(d, Gather(cols.plan1, src, b)), bias);
-    const auto s = hn::Add(hn::Add(hn::Mul(p0, hn::LoadU(d, w0 + e)), hn::Mul(p1, hn::LoadU(d, w1 + e))), half);
-    hn::StoreU(hn::ShiftRight<12>(s), d, line + e);
+  const Plan p(cols.plan);
+  const int windows = cols.plan.windows;
+  const auto* w = static_cast<const int16_t*>(cols.elementWeights);
+  ForEachGroup(p, [&](auto d8, size_t b, size_t at) {
+    const hn::Repartition<int16_t, decltype(d8)> d16;
+    const hn::Repartition<int32_t, decltype(d8)> d32;
+    const hn::Repartition<uint32_t, decltype(d8)> du;
+    const size_t e = at / 4;
+    auto pairs = hn::BitCast(d16, Gather<0>(d8, p, windows, src, b));
+    if (!kSigned) pairs = hn::Xor(pairs, hn::Set(d16, int16_t(-32768)));
+    auto unused = hn::Zero(d32);
+    const auto sum = hn::ReorderWidenMulAccumulate(d32, pairs, hn::LoadU(d16, w + 2 * e),
+                                                   hn::Set(d32, (1 << 29) + 2048), unused);
+    hn::StoreU(hn::BitCast(du, hn::ShiftRight<12>(sum)), du, line + e);
+  });
+}
+
+// 32f: (p0, p1) float pairs times (a0, a1); two vectors of pairs give one of
+// sums, even lanes plus odd lanes.
+void Horizontal32f(const LinearColumns& cols, const uint8_t* src, float* line) {
+  const Plan p(cols.plan);
+  const int windows = cols.plan.windows;
+  const auto* w = static_cast<const float*>(cols.elementWeights);
+  const hn::ScalableTag<uint8_t> d8;
+  const hn::ScalableTag<float> d;
+  const size_t group = hn::MaxLanes(d8) / 16, L = hn::Lanes(d);
+  size_t b = 0;
+  for (; b + 2 * group <= p.whole; b += 2 * group) {
+    const size_t e = 2 * b;
+    const auto v0 = hn::Mul(hn::BitCast(d, Gather<0>(d8, p, windows, src, b)), hn::LoadU(d, w + 2 * e));
+    const auto v1 = hn::Mul(hn::BitCast(d, Gather<0>(d8, p, windows, src, b + group)), hn::LoadU(d, w + 2 * e + L));
+    hn::StoreU(hn::Add(hn::ConcatEven(d, v1, v0), hn::ConcatOdd(d, v1, v0)), d, line + e);
+  }
+  const hn::Full128<uint8_t> d1;
+  const hn::Full128<float> df;
+  const hn::Full64<float> dn;
+  for (; b < p.blocks; ++b) {
+    const size_t e = p.BlockStart(b) / 8;
+    const auto v = hn::Mul(hn::BitCast(df, Gather<0>(d1, p, windows, src, b)), hn::LoadU(df, w + 2 * e));
+    hn::StoreU(hn::LowerHalf(dn, hn::Add(hn::ConcatEven(df, v, v), hn::ConcatOdd(df, v, v))), dn, line + e);
   }
 }
 
-void Horizontal32f(const LinearColumns& cols, const uint8_t* src, float* line) {
-  const hn::Full128<float> d;
-  const size_t n = cols.width * size_t(cols.channels);
-  const auto* a0 = static_cast<const float*>(cols.elementWeights);
-  const float* a1 = a0 + n;
-  for (size_t b = 0; b < cols.plan0.blocks; ++b) {
-    const size_t e = cols.plan0.BlockStart(b) / 4;
-    const auto p0 = hn::BitCast(d, Gather(cols.plan0, src, b));
-    const auto p1 = hn::BitCast(d, Gather(cols.plan1, src, b));
-    hn::StoreU(hn::Add(hn::Mul(p0, hn::LoadU(d, a0 + e)), hn::Mul(p1, hn::LoadU(d, a1 + e))), d, line + e);
+// Exact reductions by 2: each element is the mean of two neighbours, read
+// with plain loads; the rest of the row (less than a vector) goes scalar.
+// 8u: (p0 + p1) x 32 is the Q6 blend with weights 8192; C1 pairs are the
+// bytes of a 16-bit lane, C4 pairs are put side by side first.
+template <int C>
+size_t Halve8u(const uint8_t* src, uint16_t* line, size_t n) {
+  const hn::ScalableTag<uint8_t> d8;
+  const hn::Repartition<uint16_t, decltype(d8)> d16;
+  const size_t L = hn::Lanes(d16);
+  alignas(16) static constexpr uint8_t kPairs[16] = {0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+  const auto pairs = hn::LoadDup128(d8, kPairs);
+  const auto low = hn::Set(d16, 0xFF);
+  size_t e = 0;
+  for (; e + L <= n; e += L) {
+    auto v = hn::LoadU(d8, src + 2 * e);
+    if (C == 4) v = hn::TableLookupBytes(v, pairs);
+    const auto w = hn::BitCast(d16, v);
+    hn::StoreU(hn::ShiftLeft<5>(hn::Add(hn::And(w, low), hn::ShiftRight<8>(w))), d16, line + e);
   }
+  return e;
+}
+
+// Stores each 128-bit block of v at p, p + stride, p + 2 stride, ...
+template <class D, class T>
+HWY_INLINE void StoreEachBlock(D d, hn::VFromD<D> v, T* p, size_t stride) {
+  if constexpr (hn::MaxLanes(d) * sizeof(T) > 16) {
+    const hn::Half<D> dh;
+    StoreEachBlock(dh, hn::LowerHalf(dh, v), p, stride);
+    StoreEachBlock(dh, hn::UpperHalf(dh, v), p + stride * (hn::MaxLanes(d) * sizeof(T) / 32), stride);
+  } else {
+    hn::StoreU(v, d, p);
+  }
+}
+
+// 8u C3: 12 source bytes (two pairs of pixels) a 128-bit block give six
+// elements; each block is stored on its own, its last two lanes overwritten
+// by the next block's.
+size_t Halve8uC3(const uint8_t* src, uint16_t* line, size_t n) {
+  const hn::ScalableTag<uint8_t> d8;
+  const hn::Repartition<uint16_t, decltype(d8)> d16;
+  const size_t blocks = hn::MaxLanes(d8) / 16;
+  alignas(16) static constexpr uint8_t kPairs[16] = {0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, 12, 12, 12, 12};
+  const auto pairs = hn::LoadDup128(d8, kPairs);
+  const auto low = hn::Set(d16, 0xFF);
+  const intptr_t offsets[4] = {0, 12, 24, 36};
+  size_t e = 0;
+  for (; e + 6 * blocks + 2 <= n; e += 6 * blocks) {
+    const auto v = hn::TableLookupBytes(LoadWindows(d8, src + 2 * e, offsets), pairs);
+    const auto w = hn::BitCast(d16, v);
+    StoreEachBlock(d16, hn::ShiftLeft<5>(hn::Add(hn::And(w, low), hn::ShiftRight<8>(w))), line + e, 6);
+  }
+  return e;
+}
+
+// 32f C1: p0 a + p1 a with a = 1/2, even lanes plus odd lanes.
+size_t Halve32f(const float* src, float* line, size_t n) {
+  const hn::ScalableTag<float> d;
+  const size_t L = hn::Lanes(d);
+  const auto half = hn::Set(d, 0.5f);
+  size_t e = 0;
+  for (; e + L <= n; e += L) {
+    const auto v0 = hn::Mul(hn::LoadU(d, src + 2 * e), half);
+    const auto v1 = hn::Mul(hn::LoadU(d, src + 2 * e + L), half);
+    hn::StoreU(hn::Add(hn::ConcatEven(d, v1, v0), hn::ConcatOdd(d, v1, v0)), d, line + e);
+  }
+  return e;
+}
+
+bool Halve(const LinearColumns& cols, const uint8_t* row, void* line) {
+  const size_t n = cols.width * size_t(cols.channels);
+  const intptr_t first = intptr_t(cols.tap0[0]) * cols.channels;
+  size_t done;
+  if (cols.elem == ResizeElem::k8u && cols.channels == 1) {
+    done = Halve8u<1>(row + first, static_cast<uint16_t*>(line), n);
+  } else if (cols.elem == ResizeElem::k8u && cols.channels == 3) {
+    done = Halve8uC3(row + first, static_cast<uint16_t*>(line), n);
+  } else if (cols.elem == ResizeElem::k8u && cols.channels == 4) {
+    done = Halve8u<4>(row + first, static_cast<uint16_t*>(line), n);
+  } else if (cols.elem == ResizeElem::k32f && cols.channels == 1) {
+    done = Halve32f(reinterpret_cast<const float*>(row) + first, static_cast<float*>(line), n);
+  } else {
+    return false;
+  }
+  scalar::LinearHorizontal(cols, row, line, done);
+  return true;
 }
 
 void LinearHorizontalTarget(const LinearColumns& cols, const uint8_t* src, void* line) {
-  if (cols.plan0.blocks == 0) return scalar::LinearHorizontal(cols, src, line);
+  if (cols.halving && Halve(cols, src, line)) return;
+  if (cols.plan.blocks == 0) return scalar::LinearHorizontal(cols, src, line);
   switch (cols.elem) {
-    case ResizeElem::k8u: return Horizontal8u(cols, src, static_cast<uint16_t*>(line));
+    case ResizeElem::k8u:
+      if (cols.plan.contiguous) return Horizontal8u<-1>(cols, src, static_cast<uint16_t*>(line));
+      if (cols.plan.windows == 1) return Horizontal8u<1>(cols, src, static_cast<uint16_t*>(line));
+      return Horizontal8u<0>(cols, src, static_cast<uint16_t*>(line));
     case ResizeElem::k16u: return Horizontal16<false>(cols, src, static_cast<uint32_t*>(line));
     case ResizeElem::k16s: return Horizontal16<true>(cols, src, static_cast<uint32_t*>(line));
     case ResizeElem::k32f: return Horizontal32f(cols, src, static_cast<float*>(line));
@@ -141,6 +309,17 @@ HWY_INLINE bool ForEachVector(size_t n, size_t lanes, Body body) {
 
 // 8u: (hU, hL) pairs times (16384 - wy, wy) pairs in one multiply-add.
 bool Vertical8u(const uint16_t* u, const uint16_t* l, int wy, uint8_t* dst, size_t n) {
+  if (wy == 8192) {
+    // Equal weights: (hU 8192 + hL 8192 + 2^19) >> 20 is (hU + hL + 64) >> 7,
+    // and the sum of two Q6 values fits 16 bits.
+    const hn::ScalableTag<uint16_t> d;
+    const hn::Rebind<uint8_t, decltype(d)> d8;
+    const auto round = hn::Set(d, 64);
+    return ForEachVector(n, hn::Lanes(d), [&](size_t i) {
+      const auto v = hn::ShiftRight<7>(hn::Add(hn::Add(hn::LoadU(d, u + i), hn::LoadU(d, l + i)), round));
+      hn::StoreU(hn::DemoteTo(d8, hn::BitCast(hn::RebindToSigned<decltype(d)>(), v)), d8, dst + i);
+    });
+  }
   const hn::ScalableTag<int16_t> d16;
   const hn::Repartition<int32_t, decltype(d16)> d32;
   const hn::Rebind<uint8_t, decltype(d16)> d8;

@@ -53,8 +53,8 @@ void NearestRow(const NearestColumns& cols, const uint8_t* src, uint8_t* dst);
 // The columns of a linear call: element (x, c) blends source pixels tap0[x]
 // and tap1[x] with the weight pair weight[2x], weight[2x + 1] (Q14, the
 // spec's x table). The vector kernels also take the weights per element
-// (elementWeights) and one plan (8u: both taps as zero-extended 16-bit pairs)
-// or a plan per tap (16u, 16s: zero-extended 32-bit; 32f: the floats).
+// (elementWeights: int16 pairs, or float pairs for 32f) and a plan that
+// gathers each element's two taps side by side.
 struct LinearColumns {
   ResizeElem elem = ResizeElem::k8u;
   size_t width = 0;
@@ -62,8 +62,10 @@ struct LinearColumns {
   const int32_t* tap0 = nullptr;
   const int32_t* tap1 = nullptr;
   const int16_t* weight = nullptr;
-  const void* elementWeights = nullptr;  // 8u: int16 pairs; 16u, 16s: uint32 w0 then w1 arrays; 32f: float
-  GatherPlan plan0, plan1;
+  const void* elementWeights = nullptr;
+  GatherPlan plan;
+  // Every column averages source pixels 2x and 2x + 1 from tap0[0] on.
+  bool halving = false;
 };
 
 // One source row through the horizontal pass, into `line`.
