@@ -217,9 +217,9 @@ inline void SrcRoi(const Axis& a, int o, int n, int srcLen, int64_t* start, int6
 
 // A spec (at an odd address, so that Init must find its aligned start) and a
 // work buffer of exactly the reported sizes.
-class Setup {
+class Built {
  public:
-  Setup(const Scene& s, bool linear, int C = 1, int type = 1, bool L = false);
+  Built(const Scene& s, bool linear, int C = 1, int type = 1, bool L = false);
   PeliResizeSpec* Spec() { return reinterpret_cast<PeliResizeSpec*>(spec_.data() + kShift); }
   Pel8u* Buffer() { return buffer_.data(); }
   int32_t* Words() {

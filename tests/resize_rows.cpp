@@ -75,7 +75,7 @@ void AddProcessing(std::vector<Row>& rows, const std::string& name, int C, Proce
   Row r{name, v.name, {src, Out<T>(C)},
         [=](Call& c) {
           const Scene s = SceneOf(c, v);
-          Setup b(s, linear != f.otherMethod, C, TypeCode<T>(), L);
+          Built b(s, linear != f.otherMethod, C, TypeCode<T>(), L);
           const PeliPoint so = b.SrcOffset(s.off);
           if (f.word >= 0) b.Words()[f.word] = f.value;
           T* p = c.p<T>(0);
@@ -103,11 +103,11 @@ void AddProcessing(std::vector<Row>& rows, const std::string& name, int C, Proce
 // Source sizes: about dst x rx (rounded, at least 2), the full destination
 // the tile plus (ex, ey), the tile at (ox, oy); borders with a frame of
 // memory pixels around the source where a side is read from memory.
-const Variant kUp{"up", 0, 0, 0, 0, 0.67, 0.45, pelBorderReplicate, 0};
-const Variant kDown{"down", 9, 6, 5, 3, 2.6, 1.7, pelBorderMirror, 0};
+const Variant kUp{"up", 0, 0, 0, 0, 0.67, 0.45, pelBorderMirror, 0};
+const Variant kDown{"down", 9, 6, 5, 3, 2.6, 1.7, pelBorderReplicate, 0};
 const Variant kMemory{"memory", 7, 5, 4, 2, 0.77, 1.37, pelBorderInMem, 1};
-const Variant kSides{"sides", 3, 4, 2, 3, 1.45, 0.5, 4 | pelBorderInMemTop | pelBorderInMemLeft, 1};
-const Variant kLongRows{"tile", 11, 2, 6, 1, 1.3, 0.8, pelBorderMirror | pelBorderInMemRight | pelBorderInMemBottom, 1};
+const Variant kSides{"sides", 3, 4, 2, 3, 0.7, 0.5, 4 | pelBorderInMemTop | pelBorderInMemLeft, 1};
+const Variant kLongRows{"tile", 11, 2, 6, 1, 0.8, 1.3, pelBorderReplicate | pelBorderInMemRight | pelBorderInMemBottom, 1};
 const Variant kHalve{"halve", 4, 2, 3, 1, 2.0, 2.0, pelBorderReplicate, 0};
 const Variant kLarger{"larger", -3, -2, 0, 0, 1.5, 0.7, pelBorderReplicate, 0};
 
@@ -247,7 +247,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
     for (uint32_t C : {1u, 3u, 4u}) {
       rows.push_back({bufferName, method + std::to_string(C), {Results<S>(1)},
                       [=](Call& c) {
-                        Setup b(FixedScene(), linear);
+                        Built b(FixedScene(), linear);
                         return q.buffer(c.own(0, b.Spec()), c.roi, C, c.p<S>(0));
                       },
                       [=](Model& m) {
@@ -258,7 +258,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
     }
     rows.push_back({borderName, method, {Results<int>(4)},
                     [=](Call& c) {
-                      Setup b(FixedScene(), linear);
+                      Built b(FixedScene(), linear);
                       return q.border(c.own(0, b.Spec()), c.p<PeliBorderSize>(0));
                     },
                     [=](Model& m) {
@@ -270,7 +270,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
       const std::string at = method + std::to_string(o.x) + "_" + std::to_string(o.y);
       rows.push_back({offsetName, at, {Results<P>(2)},
                       [=](Call& c) {
-                        Setup b(FixedScene(), linear);
+                        Built b(FixedScene(), linear);
                         return q.offset(c.own(0, b.Spec()), o, c.p<P>(0));
                       },
                       [=](Model& m) {
@@ -282,7 +282,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
                       {Check::Pointers}, pelStatusOk, QueryShapes()});
       rows.push_back({roiName, at, {Results<P>(2), Results<S>(2)},
                       [=](Call& c) {
-                        Setup b(FixedScene(), linear);
+                        Built b(FixedScene(), linear);
                         return q.roi(c.own(0, b.Spec()), o, c.roi, c.p<P>(0), c.p<S>(1));
                       },
                       [=](Model& m) {
@@ -300,7 +300,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
     if (!faults) continue;
     // Statuses: a broken spec, a bad channel count, offsets outside.
     auto broken = [](bool lin) {
-      auto b = std::make_shared<Setup>(FixedScene(), lin);
+      auto b = std::make_shared<Built>(FixedScene(), lin);
       b->Words()[0] = 27;
       return b;
     };
@@ -308,7 +308,7 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
                     [=](Call& c) { auto b = broken(linear); return q.buffer(c.own(0, b->Spec()), c.roi, 3, c.p<S>(0)); },
                     nullptr, magicOrder, pelStatusContextMismatch, QueryShapes()});
     rows.push_back({bufferName, std::string("channels") + method, {Results<S>(1)},
-                    [=](Call& c) { Setup b(FixedScene(), linear); return q.buffer(c.own(0, b.Spec()), c.roi, 2, c.p<S>(0)); },
+                    [=](Call& c) { Built b(FixedScene(), linear); return q.buffer(c.own(0, b.Spec()), c.roi, 2, c.p<S>(0)); },
                     nullptr, magicOrder, pelStatusChannelsNotSupported, QueryShapes()});
     rows.push_back({borderName, std::string("magic") + method, {Results<int>(4)},
                     [=](Call& c) { auto b = broken(linear); return q.border(c.own(0, b->Spec()), c.p<PeliBorderSize>(0)); },
@@ -316,11 +316,11 @@ void AddQueries(std::vector<Row>& rows, const char* type, const QueryCalls<P, S>
     for (PeliPoint o : {PeliPoint{50, 0}, PeliPoint{0, 31}, PeliPoint{-1, 2}, PeliPoint{3, -4}}) {
       const std::string at = std::string("outside") + method + std::to_string(o.x) + "_" + std::to_string(o.y);
       rows.push_back({offsetName, at, {Results<P>(2)},
-                      [=](Call& c) { Setup b(FixedScene(), linear); return q.offset(c.own(0, b.Spec()), o, c.p<P>(0)); },
+                      [=](Call& c) { Built b(FixedScene(), linear); return q.offset(c.own(0, b.Spec()), o, c.p<P>(0)); },
                       nullptr, {Check::Pointers, Check::Param}, pelStatusOutOfRange, QueryShapes()});
       rows.push_back({roiName, at, {Results<P>(2), Results<S>(2)},
                       [=](Call& c) {
-                        Setup b(FixedScene(), linear);
+                        Built b(FixedScene(), linear);
                         return q.roi(c.own(0, b.Spec()), o, c.roi, c.p<P>(0), c.p<S>(1));
                       },
                       nullptr, {Check::Pointers, Check::Sizes, Check::Param}, pelStatusOutOfRange, QueryShapes()});
@@ -417,7 +417,7 @@ PeliSizeL Wide(PeliSize s) { return {s.width, s.height}; }
 
 }  // namespace
 
-Setup::Setup(const Scene& s, bool linear, int C, int type, bool L) : L_(L) {
+Built::Built(const Scene& s, bool linear, int C, int type, bool L) : L_(L) {
   const int code = linear ? 2 : 1;
   const TypeCalls& t = CallsOf(type);
   PelStatus st[3];
@@ -440,7 +440,7 @@ Setup::Setup(const Scene& s, bool linear, int C, int type, bool L) : L_(L) {
   for (PelStatus x : st) EXPECT_EQ(x, pelStatusOk) << "resize set-up";
 }
 
-PeliPoint Setup::SrcOffset(PeliPoint o) {
+PeliPoint Built::SrcOffset(PeliPoint o) {
   PeliPoint p{};
   if (L_) {
     PeliPointL q{};
