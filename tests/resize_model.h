@@ -213,14 +213,32 @@ inline void SrcRoi(const Axis& a, int o, int n, int srcLen, int64_t* start, int6
   *len = o + n == dstLen ? srcLen - *start : a.index[size_t(o + n - 1)] - *start + 1;
 }
 
-// ---- Set-up through the library --------------------------------------------------------
+// ---- The library's functions ------------------------------------------------------
+
+// The set-up and query functions of one element type, or the _L forms, behind
+// one signature: results through void pointers (int or PelIntL, PeliPoint or
+// PeliPointL), `type` used by the _L forms only.
+struct Api {
+  std::string token;  // "8u" .. "64f", or "L"
+  bool L;
+  int type;
+  std::function<PelStatus(PeliSize, PeliSize, int type, int code, uint32_t aa, void*, void*)> getSize;
+  std::function<PelStatus(PeliSize, PeliSize, int type, PeliResizeSpec*)> nearestInit, linearInit;
+  std::function<PelStatus(const PeliResizeSpec*, PeliSize, uint32_t, void*)> bufferSize;
+  std::function<PelStatus(const PeliResizeSpec*, PeliBorderSize*)> border;
+  std::function<PelStatus(const PeliResizeSpec*, PeliPoint, void*)> srcOffset;
+  std::function<PelStatus(const PeliResizeSpec*, PeliPoint, PeliSize, void*, void*)> srcRoi;
+};
+// 8u, 16u, 16s, 32f, 64f, then L.
+const std::vector<Api>& Apis();
+const Api& ApiOf(int type, bool L);
 
 // A spec (at an odd address, so that Init must find its aligned start) and a
 // work buffer of exactly the reported sizes.
 class Built {
  public:
   Built(const Scene& s, bool linear, int C = 1, int type = 1, bool L = false);
-  PeliResizeSpec* Spec() { return reinterpret_cast<PeliResizeSpec*>(spec_.data() + kShift); }
+  PeliResizeSpec* Spec() { return reinterpret_cast<PeliResizeSpec*>(spec_.data() + 13); }
   Pel8u* Buffer() { return buffer_.data(); }
   int32_t* Words() {
     const auto a = reinterpret_cast<uintptr_t>(Spec());
@@ -229,36 +247,35 @@ class Built {
   PeliPoint SrcOffset(PeliPoint dstOffset);
 
  private:
-  static constexpr size_t kShift = 13;
-  bool L_;
+  const Api* api_;
   std::vector<uint8_t> spec_, buffer_;
 };
 
-// Rows' views of the set-up and query functions, plain and _L alike.
-template <class R>
-using SizeQuery = std::function<PelStatus(PeliSize, PeliSize, int type, int code, uint32_t aa, R*, R*)>;
-std::vector<std::pair<std::string, SizeQuery<int>>> PlainSizeQueries();
-SizeQuery<PelIntL> SizeQueryL();
-
-using InitCall = std::function<PelStatus(PeliSize, PeliSize, int type, PeliResizeSpec*)>;
-struct InitCase {
-  std::string name;
-  InitCall init;
-  bool linear;
-  int type;
-  bool typed;  // takes a data type
-};
-std::vector<InitCase> InitCases();
-
-template <class P, class S>
-struct QueryCalls {
-  std::function<PelStatus(const PeliResizeSpec*, PeliSize, uint32_t, S*)> buffer;
-  std::function<PelStatus(const PeliResizeSpec*, PeliBorderSize*)> border;
-  std::function<PelStatus(const PeliResizeSpec*, PeliPoint, P*)> offset;
-  std::function<PelStatus(const PeliResizeSpec*, PeliPoint, PeliSize, P*, S*)> roi;
-};
-std::vector<std::pair<const char*, QueryCalls<int, int>>> PlainQueries();
-QueryCalls<int64_t, PelIntL> QueriesL();
+// A processing export behind one signature, on bytes: (src, srcStep, dst,
+// dstStep, offset, tile, border, spec, buffer); the nearest ones ignore the
+// border.
+using Process = std::function<PelStatus(const void*, int, void*, int, PeliPoint, PeliSize, int,
+                                        const PeliResizeSpec*, Pel8u*)>;
+template <class T, class F>
+Process Adapt(F fn) {
+  return [fn](const void* s, int ss, void* d, int ds, PeliPoint o, PeliSize t, int b, const PeliResizeSpec* sp,
+              Pel8u* buf) {
+    const auto* src = static_cast<const T*>(s);
+    auto* dst = static_cast<T*>(d);
+    const PeliPointL oL{o.x, o.y};
+    const PeliSizeL tL{t.width, t.height};
+    if constexpr (std::is_invocable_v<F, const T*, int, T*, int, PeliPoint, PeliSize, const PeliResizeSpec*, Pel8u*>)
+      return fn(src, ss, dst, ds, o, t, sp, buf);
+    else if constexpr (std::is_invocable_v<F, const T*, PelIntL, T*, PelIntL, PeliPointL, PeliSizeL,
+                                           const PeliResizeSpec*, Pel8u*>)
+      return fn(src, ss, dst, ds, oL, tL, sp, buf);
+    else if constexpr (std::is_invocable_v<F, const T*, int, T*, int, PeliPoint, PeliSize, int, const T*,
+                                           const PeliResizeSpec*, Pel8u*>)
+      return fn(src, ss, dst, ds, o, t, b, nullptr, sp, buf);
+    else
+      return fn(src, ss, dst, ds, oL, tL, b, nullptr, sp, buf);
+  };
+}
 
 // Tiles for the processing rows: widths around the plan blocks and vector
 // sizes, heights that reuse lines and skip rows, padded, offset and bottom-up
