@@ -97,13 +97,13 @@ void LinearHorizontalT(const LinearColumns& cols, const uint8_t* srcBytes, void*
   const auto* src = reinterpret_cast<const typename M::T*>(srcBytes);
   auto* line = static_cast<typename M::Line*>(lineOut);
   const int C = cols.channels;
-  const size_t n = cols.width * size_t(C);
-  for (size_t e = from; e < n; ++e) {
-    const size_t x = e / size_t(C);
-    const int c = int(e - x * size_t(C));
-    const auto p0 = src[intptr_t(cols.tap0[x]) * C + c];
-    const auto p1 = src[intptr_t(cols.tap1[x]) * C + c];
-    line[e] = M::H(p0, p1, cols.weight[2 * x], cols.weight[2 * x + 1]);
+  size_t x = from / size_t(C);
+  for (int c = int(from % size_t(C)); x < cols.width; ++x, c = 0) {
+    for (; c < C; ++c) {
+      const auto p0 = src[intptr_t(cols.tap0[x]) * C + c];
+      const auto p1 = src[intptr_t(cols.tap1[x]) * C + c];
+      line[x * size_t(C) + size_t(c)] = M::H(p0, p1, cols.weight[2 * x], cols.weight[2 * x + 1]);
+    }
   }
 }
 

@@ -227,20 +227,22 @@ HWY_INLINE void StoreEachBlock(D d, hn::VFromD<D> v, T* p, size_t stride) {
 }
 
 // 8u C3: 12 source bytes (two pairs of pixels) a 128-bit block give six
-// elements; each block is stored on its own, its last two lanes overwritten
-// by the next block's.
-size_t Halve8uC3(const uint8_t* src, uint16_t* line, size_t n) {
-  const hn::ScalableTag<uint8_t> d8;
-  const hn::Repartition<uint16_t, decltype(d8)> d16;
+// elements: one load, its 32-bit lanes spread so that block k starts at byte
+// 12 k; each block is stored on its own, its last two lanes overwritten by
+// the next block's.
+template <class D8>
+size_t Halve8uC3(D8 d8, const uint8_t* src, uint16_t* line, size_t e, size_t n) {
+  const hn::Repartition<uint16_t, D8> d16;
+  const hn::Repartition<uint32_t, D8> d32;
   const size_t blocks = hn::MaxLanes(d8) / 16;
+  alignas(64) static constexpr uint32_t kSpread[16] = {0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12};
   alignas(16) static constexpr uint8_t kPairs[16] = {0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, 12, 12, 12, 12};
+  const auto spread = hn::SetTableIndices(d32, kSpread);
   const auto pairs = hn::LoadDup128(d8, kPairs);
   const auto low = hn::Set(d16, 0xFF);
-  const intptr_t offsets[4] = {0, 12, 24, 36};
-  size_t e = 0;
-  for (; e + 6 * blocks + 2 <= n; e += 6 * blocks) {
-    const auto v = hn::TableLookupBytes(LoadWindows(d8, src + 2 * e, offsets), pairs);
-    const auto w = hn::BitCast(d16, v);
+  for (; e + 8 * blocks <= n; e += 6 * blocks) {
+    const auto v = hn::BitCast(d8, hn::TableLookupLanes(hn::BitCast(d32, hn::LoadU(d8, src + 2 * e)), spread));
+    const auto w = hn::BitCast(d16, hn::TableLookupBytes(v, pairs));
     StoreEachBlock(d16, hn::ShiftLeft<5>(hn::Add(hn::And(w, low), hn::ShiftRight<8>(w))), line + e, 6);
   }
   return e;
@@ -267,7 +269,8 @@ bool Halve(const LinearColumns& cols, const uint8_t* row, void* line) {
   if (cols.elem == ResizeElem::k8u && cols.channels == 1) {
     done = Halve8u<1>(row + first, static_cast<uint16_t*>(line), n);
   } else if (cols.elem == ResizeElem::k8u && cols.channels == 3) {
-    done = Halve8uC3(row + first, static_cast<uint16_t*>(line), n);
+    auto* out = static_cast<uint16_t*>(line);
+    done = Halve8uC3(hn::Full128<uint8_t>(), row + first, out, Halve8uC3(hn::ScalableTag<uint8_t>(), row + first, out, 0, n), n);
   } else if (cols.elem == ResizeElem::k8u && cols.channels == 4) {
     done = Halve8u<4>(row + first, static_cast<uint16_t*>(line), n);
   } else if (cols.elem == ResizeElem::k32f && cols.channels == 1) {
