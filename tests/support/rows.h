@@ -58,8 +58,12 @@ using Fill = std::function<void(AnyView&, std::mt19937&)>;
 
 // Pointers: NULL -> -8; Sizes: width or height below 1 -> -6; Steps: a step
 // below its StepRule -> the row's badStepStatus (-16); LatePointers: a NULL
-// latePointer argument -> -8; Param: the row's own `expect` status.
-enum class Check { Pointers, Sizes, Steps, LatePointers, Param };
+// latePointer argument -> -8; Param: the row's own `expect` status;
+// ZeroSizes: a width or height of 0 -> the warning pelStatusNoOperation (1),
+// for exports that treat an empty size as nothing to do (Sizes then covers
+// negative sizes only). Sizes are swept only when the order has Sizes or
+// ZeroSizes.
+enum class Check { Pointers, Sizes, Steps, LatePointers, Param, ZeroSizes };
 
 struct Arg {
   ElemType type{1, 'u'};
@@ -130,7 +134,7 @@ Arg Value() {
 // An array of `count` results the export writes.
 template <class T>
 Arg Results(int count) {
-  Arg a{ElemOf<T>(), 1, Use::Out};
+  Arg a = Out<T>(1);
   a.count = count;
   return a;
 }
@@ -191,6 +195,19 @@ class Call {
     std::memcpy(&value, Element(arg, i), sizeof(T));
     return value;
   }
+  // A pointer the call makes itself (a spec, a work buffer): the sweep sets
+  // it NULL in turn like the arguments' pointers; `id` tells several apart.
+  template <class T>
+  T* own(int id, T* pointer) {
+    return Take(kOwnSlot + id) ? nullptr : pointer;
+  }
+  // The pointer of argument `arg` for the call's own use, never set NULL (an
+  // array the call copies results into).
+  template <class T>
+  T* unswept(int arg) {
+    return reinterpret_cast<T*>((*images)[arg].first());
+  }
+  static constexpr int kOwnSlot = 1000;
   // An array of plane pointers for the given arguments (itself a pointer the
   // sweep sets to NULL).
   template <class T>
