@@ -78,6 +78,11 @@ struct Arg {
   // Its NULL pointer is caught at Check::LatePointers (after other checks)
   // rather than with the other pointers.
   bool latePointer = false;
+  // Float images whose model is exact while the export rounds along a long
+  // computation (transforms): inside the ROI an element may differ from the
+  // model by this fraction of the largest magnitude in the model's image.
+  // Bytes outside the ROI must still be equal.
+  double tolerance = 0;
 };
 
 template <class T>
@@ -230,7 +235,8 @@ struct Row {
   // Writes the expected outputs and returns the expected status.
   std::function<PelStatus(Model&)> model;
   // The checks the export makes, in its order. Steps are swept only when
-  // present (and then only for arguments whose StepRule is not None).
+  // present (and then only for arguments whose StepRule is not None); so are
+  // sizes (an export whose sizes come from a spec takes no ROI).
   std::vector<Check> order{Check::Pointers, Check::Sizes};
   // Not Ok: a bad-parameter row, which must fail with this status.
   PelStatus expect = pelStatusOk;
