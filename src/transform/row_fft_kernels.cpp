@@ -48,34 +48,34 @@ struct VectorLanes {
 using Lanes = VectorLanes;
 using D = VectorLanes::D;
 using V = VectorLanes::V;
+constexpr size_t L = Lanes::kLanes;
 
-// A vector whose 128-bit block b comes from p + b x stride bytes, and back.
-template <class DB>
-HWY_INLINE hn::Vec<DB> LoadBlocks(DB db, const float* p, ptrdiff_t stride) {
+// f(b, block) for every 128-bit block of v, and the vector whose block b is
+// f(b).
+template <class DB, class F>
+HWY_INLINE void ForEachBlock(DB db, hn::Vec<DB> v, size_t first, const F& f) {
   if constexpr (hn::MaxLanes(DB()) <= 4) {
-    return hn::LoadU(db, p);
+    f(first, v);
   } else {
     const hn::Half<DB> dh;
-    const ptrdiff_t half = stride * static_cast<ptrdiff_t>(hn::MaxLanes(DB()) / 8);
-    return hn::Combine(db, LoadBlocks(dh, AddBytes(p, half), stride), LoadBlocks(dh, p, stride));
+    ForEachBlock(dh, hn::LowerHalf(dh, v), first, f);
+    ForEachBlock(dh, hn::UpperHalf(dh, v), first + hn::MaxLanes(DB()) / 8, f);
   }
 }
-template <class DB>
-HWY_INLINE void StoreBlocks(DB db, hn::Vec<DB> v, float* p, ptrdiff_t stride) {
+template <class DB, class F>
+HWY_INLINE hn::Vec<DB> FromBlocks(DB db, size_t first, const F& f) {
   if constexpr (hn::MaxLanes(DB()) <= 4) {
-    hn::StoreU(v, db, p);
+    return f(first);
   } else {
     const hn::Half<DB> dh;
-    const ptrdiff_t half = stride * static_cast<ptrdiff_t>(hn::MaxLanes(DB()) / 8);
-    StoreBlocks(dh, hn::LowerHalf(dh, v), p, stride);
-    StoreBlocks(dh, hn::UpperHalf(dh, v), AddBytes(p, half), stride);
+    return hn::Combine(db, FromBlocks(dh, first + hn::MaxLanes(DB()) / 8, f), FromBlocks(dh, first, f));
   }
 }
 
 // 4 x 4 transpose within every 128-bit block.
-HWY_INLINE void Transpose4(V& a, V& b, V& c, V& e) {
-  const D d;
-  const hn::Repartition<double, D> dd;
+template <class DB, class VB = hn::Vec<DB>>
+HWY_INLINE void Transpose4(DB d, VB& a, VB& b, VB& c, VB& e) {
+  const hn::Repartition<double, DB> dd;
   const auto t0 = hn::BitCast(dd, hn::InterleaveLower(d, a, b));  // a0 b0 a1 b1
   const auto t1 = hn::BitCast(dd, hn::InterleaveLower(d, c, e));  // c0 e0 c1 e1
   const auto t2 = hn::BitCast(dd, hn::InterleaveUpper(d, a, b));  // a2 b2 a3 b3
@@ -84,6 +84,40 @@ HWY_INLINE void Transpose4(V& a, V& b, V& c, V& e) {
   b = hn::BitCast(d, hn::InterleaveUpper(dd, t0, t1));
   c = hn::BitCast(d, hn::InterleaveLower(dd, t2, t3));
   e = hn::BitCast(d, hn::InterleaveUpper(dd, t2, t3));
+}
+
+// Between L rows of W >= 4 points and the planes: lane l of the element at
+// col(j) is column j of row l. Rows are read and written a whole vector at
+// a time (4 rows transposed in 4 x 4 tiles, each tile one element's 4
+// lanes), so that every line of rows a power of two apart, which share
+// cache sets, is touched once.
+template <class DB, class Col>
+HWY_INLINE void RowsToPlanes(DB db, const float* src, ptrdiff_t step, size_t W, const Col& col) {
+  constexpr size_t kV = hn::MaxLanes(DB());
+  const hn::Full128<float> d4;
+  for (size_t x = 0; x < W; x += kV)
+    for (size_t g = 0; g < L; g += 4) {
+      hn::Vec<DB> r[4];
+      for (size_t i = 0; i < 4; ++i) r[i] = hn::LoadU(db, Row(src, step, g + i) + x);
+      Transpose4(db, r[0], r[1], r[2], r[3]);
+      for (size_t k = 0; k < 4; ++k)
+        ForEachBlock(db, r[k], 0, [&](size_t b, hn::Vec<hn::Full128<float>> v) {
+          hn::Store(v, d4, col(x + 4 * b + k) + g);
+        });
+    }
+}
+template <class DB, class Col>
+HWY_INLINE void PlanesToRows(DB db, const Col& col, float* dst, ptrdiff_t step, size_t W) {
+  constexpr size_t kV = hn::MaxLanes(DB());
+  const hn::Full128<float> d4;
+  for (size_t x = 0; x < W; x += kV)
+    for (size_t g = 0; g < L; g += 4) {
+      hn::Vec<DB> r[4];
+      for (size_t k = 0; k < 4; ++k)
+        r[k] = FromBlocks(db, 0, [&](size_t b) { return hn::Load(d4, col(x + 4 * b + k) + g); });
+      Transpose4(db, r[0], r[1], r[2], r[3]);
+      for (size_t i = 0; i < 4; ++i) hn::StoreU(r[i], db, Row(dst, step, g + i) + x);
+    }
 }
 
 // L interleaved (re, im) pairs from two vectors into a vector of re and a
@@ -102,7 +136,9 @@ HWY_INLINE void Merge(V re, V im, V& v0, V& v1) {
 }
 #endif
 
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
 constexpr size_t L = Lanes::kLanes;
+#endif
 
 // Element i of a lane that advances `stride` bytes an element.
 template <class T>
@@ -179,63 +215,30 @@ void RealLanes(const Fft1D& s, const float* const* in, ptrdiff_t inStride, float
 // ---- Rows --------------------------------------------------------------------------
 
 #if !(HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR)
-// L whole rows of W >= 4 points, moved in 4 x 4 tiles: lane l is row l.
-// Columns 4t .. 4t + 3 of the packed rows hold, in order, im X[2t] (X[0]
-// for t = 0), re X[2t + 1], im X[2t + 1], re X[2t + 2] (X[M] at the end).
-void RealRowBlock(const Fft1D& s, const float* src, ptrdiff_t srcStep, float* dst, ptrdiff_t dstStep, bool inverse,
-                  float* work) {
-  const D d;
+// L whole rows of W >= 4 points; lane l is row l.
+template <class DB>
+void RealRowBlock(DB db, const Fft1D& s, const float* src, ptrdiff_t srcStep, float* dst, ptrdiff_t dstStep,
+                  bool inverse, float* work) {
   const size_t N = size_t{1} << s.order, M = N / 2;
   const uint32_t* rev = s.Rev();
-  const ptrdiff_t srcBlocks = 4 * srcStep, dstBlocks = 4 * dstStep;
   float *reA = work, *imA = work + M * L, *reB = work + 2 * M * L, *imB = work + 3 * M * L;
-  V c[4];
-  auto load = [&](size_t t) {
-    for (int i = 0; i < 4; ++i) c[i] = LoadBlocks(d, Row(src, srcStep, i) + 4 * t, srcBlocks);
-    Transpose4(c[0], c[1], c[2], c[3]);
+  // The packed row: X[0], re X[1], im X[1], ..., X[M]; X[0] and X[M] stand in
+  // reA[0] and imA[0].
+  auto packed = [&](size_t j) {
+    return j == 0 ? reA : j == N - 1 ? imA : (j & 1) ? reA + (j + 1) / 2 * L : imA + j / 2 * L;
   };
-  auto store = [&](size_t t) {
-    Transpose4(c[0], c[1], c[2], c[3]);
-    for (int i = 0; i < 4; ++i) StoreBlocks(d, c[i], Row(dst, dstStep, i) + 4 * t, dstBlocks);
-  };
-  // Where the packed columns 4t .. 4t + 3 live in the planes.
-  auto packed = [&](size_t t, float* re, float* im, float** p) {
-    p[0] = t == 0 ? re : im + 2 * t * L;
-    p[1] = re + (2 * t + 1) * L;
-    p[2] = im + (2 * t + 1) * L;
-    p[3] = 2 * t + 2 == M ? im : re + (2 * t + 2) * L;
-  };
-  float* p[4];
   if (!inverse) {
-    for (size_t t = 0; t < N / 4; ++t) {
-      load(t);
-      hn::Store(c[0], d, reA + rev[2 * t] * L);
-      hn::Store(c[1], d, imA + rev[2 * t] * L);
-      hn::Store(c[2], d, reA + rev[2 * t + 1] * L);
-      hn::Store(c[3], d, imA + rev[2 * t + 1] * L);
-    }
+    // Even points to re, odd ones to im, in bit-reversed order.
+    RowsToPlanes(db, src, srcStep, N, [&](size_t j) { return ((j & 1) ? imA : reA) + rev[j >> 1] * L; });
     ComplexDit<Lanes>(reA, imA, s.ComplexOrder(), s.Pass());
     RealPost<Lanes>(reA, imA, M, s.Post(), s.FwdFactor());
-    for (size_t t = 0; t < N / 4; ++t) {
-      packed(t, reA, imA, p);
-      for (int i = 0; i < 4; ++i) c[i] = hn::Load(d, p[i]);
-      store(t);
-    }
+    PlanesToRows(db, packed, dst, dstStep, N);
   } else {
-    for (size_t t = 0; t < N / 4; ++t) {
-      load(t);
-      packed(t, reA, imA, p);
-      for (int i = 0; i < 4; ++i) hn::Store(c[i], d, p[i]);
-    }
+    RowsToPlanes(db, src, srcStep, N, packed);
+    // The inverse complex FFT is the forward one with re and im exchanged.
     RealPre<Lanes>(reA, imA, imB, reB, M, s.Post(), rev, s.InvFactor());
     ComplexDit<Lanes>(reB, imB, s.ComplexOrder(), s.Pass());
-    for (size_t t = 0; t < N / 4; ++t) {
-      c[0] = hn::Load(d, imB + 2 * t * L);
-      c[1] = hn::Load(d, reB + 2 * t * L);
-      c[2] = hn::Load(d, imB + (2 * t + 1) * L);
-      c[3] = hn::Load(d, reB + (2 * t + 1) * L);
-      store(t);
-    }
+    PlanesToRows(db, [&](size_t j) { return ((j & 1) ? reB : imB) + (j >> 1) * L; }, dst, dstStep, N);
   }
 }
 #endif
@@ -245,8 +248,13 @@ void Rows(const Fft1D& s, const float* src, ptrdiff_t srcStep, float* dst, ptrdi
   size_t y = 0;
 #if !(HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR)
   if (s.order >= 2) {
-    for (; y + L <= height; y += L)
-      RealRowBlock(s, Row(src, srcStep, y), srcStep, Row(dst, dstStep, y), dstStep, inverse, work);
+    const size_t W = size_t{1} << s.order;
+    for (; y + L <= height; y += L) {
+      const float* from = Row(src, srcStep, y);
+      float* to = Row(dst, dstStep, y);
+      if (W >= L) RealRowBlock(D(), s, from, srcStep, to, dstStep, inverse, work);
+      else RealRowBlock(hn::Full128<float>(), s, from, srcStep, to, dstStep, inverse, work);
+    }
   }
 #endif
   const float* in[L];
