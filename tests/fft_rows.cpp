@@ -5,9 +5,7 @@
 // flush against an inaccessible page.
 #include <cmath>
 #include <complex>
-#include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "peli.h"
@@ -17,19 +15,6 @@ namespace {
 
 using namespace peltest;
 using Cx = std::complex<long double>;
-
-Row MakeRow(std::string name, std::string variant, std::vector<Arg> args, std::function<PelStatus(Call&)> call,
-            std::function<PelStatus(Model&)> model, std::vector<Check> order, PelStatus expect = pelStatusOk) {
-  Row row;
-  row.name = std::move(name);
-  row.variant = std::move(variant);
-  row.args = std::move(args);
-  row.call = std::move(call);
-  row.model = std::move(model);
-  row.order = std::move(order);
-  row.expect = expect;
-  return row;
-}
 
 int Log2(int n) {
   int k = 0;
@@ -160,14 +145,14 @@ void AddTransform(std::vector<Row>& rows, const char* name, TransformFn fn, bool
   std::vector<Arg> args{src};
   if (!inPlace) args.push_back(dst);
   const int out = inPlace ? 0 : 1;
-  Row row = MakeRow(
+  Row row{
       name, std::string(s.name) + (inPlace ? "_inplace" : ""), args,
       [fn, flag = s.flag, out](Call& c) { return WithSpec(c, flag, fn, 0, out); },
       [inverse, s, out](Model& m) {
         const long double n = static_cast<long double>(m.roi.width) * m.roi.height;
         return inverse ? InverseModel(m, 0, out, std::pow(n, s.inv)) : ForwardModel(m, 0, out, std::pow(n, s.fwd));
       },
-      {Check::Pointers, Check::Steps});
+      {Check::Pointers, Check::Steps}};
   row.shapes = TransformShapes();
   row.sweepShape = Layout{8, 4, 1, 8, 4, false};
   rows.push_back(row);
@@ -202,15 +187,15 @@ Arg Positive(Arg a) {
 void AddProducts(std::vector<Row>& rows) {
   const std::vector<Check> order{Check::Pointers, Check::Steps, Check::Sizes};
   const auto mul = peliMulPack_32f_C1R;
-  rows.push_back(MakeRow("peliMulPack_32f_C1R", "",
+  rows.push_back(Row{"peliMulPack_32f_C1R", "",
                   {Positive(In<Pel32f>()), Positive(In<Pel32f>()), Positive(Out<Pel32f>())},
                   [mul](Call& c) {
                     return mul(c.p<Pel32f>(0), c.step(0), c.p<Pel32f>(1), c.step(1), c.p<Pel32f>(2), c.step(2), c.roi);
                   },
-                  [](Model& m) { return ProductModel(m, 0, 1, 2, false); }, order));
+                  [](Model& m) { return ProductModel(m, 0, 1, 2, false); }, order});
   // Either source may be the destination.
   for (int same : {0, 1}) {
-    rows.push_back(MakeRow("peliMulPack_32f_C1R", same == 0 ? "dst_is_src1" : "dst_is_src2",
+    rows.push_back(Row{"peliMulPack_32f_C1R", same == 0 ? "dst_is_src1" : "dst_is_src2",
                     {Positive(InOut<Pel32f>()), Positive(In<Pel32f>())},
                     [mul, same](Call& c) {
                       Pel32f* d = c.p<Pel32f>(0);
@@ -219,48 +204,42 @@ void AddProducts(std::vector<Row>& rows) {
                                        : mul(o, c.step(1), d, c.step(0), d, c.step(0), c.roi);
                     },
                     [same](Model& m) { return ProductModel(m, same == 0 ? 0 : 1, same == 0 ? 1 : 0, 0, false); },
-                    order));
+                    order});
   }
-  rows.push_back(MakeRow("peliMulPackConj_32f_C1IR", "",
+  rows.push_back(Row{"peliMulPackConj_32f_C1IR", "",
                   {Positive(In<Pel32f>()), Positive(InOut<Pel32f>())},
                   [](Call& c) {
                     return peliMulPackConj_32f_C1IR(c.p<Pel32f>(0), c.step(0), c.p<Pel32f>(1), c.step(1), c.roi);
                   },
-                  [](Model& m) { return ProductModel(m, 1, 0, 1, true); }, order));
+                  [](Model& m) { return ProductModel(m, 1, 0, 1, true); }, order});
 }
 
 // The set-up functions' parameter errors: status, order, nothing written.
+// Init looks at orders of 31 and more before its spec pointer, at 30 and at
+// the flag after it.
 void AddSetUp(std::vector<Row>& rows) {
   struct Bad {
+    bool init;
     int ox, oy, flag;
     PelStatus status;
     const char* name;
   };
-  const Bad sizes[] = {{30, 1, 8, pelStatusFftOrderError, "order30"},
-                       {2, -1, 8, pelStatusFftOrderError, "orderNegative"},
-                       {3, 2, 3, pelStatusFftFlagError, "flag3"}};
-  for (const Bad& b : sizes) {
-    Row row = MakeRow("peliFFTGetSize_R_32f", b.name,
-            {Results<Pel32s>(1), Results<Pel32s>(1), Results<Pel32s>(1)},
-            [b](Call& c) {
-              return peliFFTGetSize_R_32f(b.ox, b.oy, b.flag, pelHintAccurate, c.p<int>(0), c.p<int>(1), c.p<int>(2));
-            },
-            nullptr, {Check::Pointers, Check::Param}, b.status);
-    row.shapes = {Layout{1, 1}};
-    rows.push_back(row);
-  }
-  // Orders of 31 and more fail before the spec pointer is looked at; 30
-  // and bad flags after it.
-  const Bad inits[] = {{31, 0, 8, pelStatusFftOrderError, "order31"},
-                       {0, 30, 8, pelStatusFftOrderError, "order30"},
-                       {2, 2, 0, pelStatusFftFlagError, "flag0"}};
-  for (const Bad& b : inits) {
-    Row row = MakeRow("peliFFTInit_R_32f", b.name, {Results<Pel8u>(512)},
-            [b](Call& c) {
-              return peliFFTInit_R_32f(b.ox, b.oy, b.flag, pelHintAccurate,
-                                       reinterpret_cast<PeliFFTSpec_R_32f*>(c.p<Pel8u>(0)), nullptr);
-            },
-            nullptr, {Check::Pointers, Check::Param}, b.status);
+  const Bad bad[] = {{false, 30, 1, 8, pelStatusFftOrderError, "order30"},
+                     {false, 2, -1, 8, pelStatusFftOrderError, "orderNegative"},
+                     {false, 3, 2, 3, pelStatusFftFlagError, "flag3"},
+                     {true, 31, 0, 8, pelStatusFftOrderError, "order31"},
+                     {true, 0, 30, 8, pelStatusFftOrderError, "order30"},
+                     {true, 2, 2, 0, pelStatusFftFlagError, "flag0"}};
+  for (const Bad& b : bad) {
+    Row row{
+        b.init ? "peliFFTInit_R_32f" : "peliFFTGetSize_R_32f", b.name,
+        b.init ? std::vector<Arg>{Results<Pel8u>(512)} : std::vector<Arg>(3, Results<Pel32s>(1)),
+        [b](Call& c) {
+          return b.init ? peliFFTInit_R_32f(b.ox, b.oy, b.flag, 0, reinterpret_cast<PeliFFTSpec_R_32f*>(c.p<Pel8u>(0)),
+                                            nullptr)
+                        : peliFFTGetSize_R_32f(b.ox, b.oy, b.flag, 0, c.p<int>(0), c.p<int>(1), c.p<int>(2));
+        },
+        nullptr, {Check::Pointers, Check::Param}, b.status};
     if (b.ox == 31) row.order = {Check::Param, Check::Pointers};
     row.shapes = {Layout{1, 1}};
     rows.push_back(row);

@@ -59,7 +59,7 @@ struct Arg {
   int channels = 1;
   Use use = Use::In;
   // Size of the image from the call's ROI; empty: the ROI itself.
-  std::function<PeliSize(PeliSize)> size;
+  std::function<PeliSize(PeliSize)> size{};
   // > 0: a fixed array of this many elements (constants, results), not an
   // image shaped by the ROI.
   int count = 0;
@@ -70,7 +70,7 @@ struct Arg {
   bool byValue = false;
   StepRule step = StepRule::None;
   // How elements are filled; empty: random bits, finite floats.
-  Fill fill;
+  Fill fill{};
   // Elements at the end of the image that the export must not touch, not
   // even read (a channel form ends at its channel of the last pixel); the
   // fenced shapes cut them off.
@@ -242,7 +242,7 @@ struct Row {
   PelStatus expect = pelStatusOk;
   // Shapes to run on (the ROI of the call); empty: AwkwardLayouts(channels of
   // the first image argument).
-  std::vector<Layout> shapes;
+  std::vector<Layout> shapes{};
   // The shape of the bad-argument sweep; width 0: 9x4.
   Layout sweepShape{0, 0};
   // Seeds the random contents; rows of one export may differ in it.
