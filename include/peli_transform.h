@@ -35,6 +35,9 @@ extern "C" {
  * The work size is 0 only for the 1 x 1 transform; a NULL buffer is then
  * accepted.
  *
+ * Steps are in bytes; rows advance by the step rounded down to a multiple
+ * of 4.
+ *
  * Results are bit-identical on every processor and instruction set, 32-bit
  * and 64-bit, and independent of the caller's rounding mode: the twiddle
  * factors are computed in double precision and rounded to float once, and
@@ -88,6 +91,8 @@ PELI_API PelStatus peliFFTInv_PackToR_32f_C1R(const Pel32f* pSrc, int srcStep, P
  * In the spectrum domain this is circular convolution; the conjugate product
  * is circular cross-correlation. Statuses: -8 for a NULL pointer, -16 for a
  * step below 1, -6 for a width or height below 1 (in this order). */
+
+/* Steps as for the transforms: at least 1, rounded down to a multiple of 4. */
 
 /* pDst = pSrc1 x pSrc2. Either source may be the destination (same pointer
  * and step). */

@@ -174,6 +174,10 @@ Fft1D* Build1D(unsigned char* at, const Layout1D& l, int order, bool real, int f
   return s;
 }
 
+// Rows advance by whole floats: a step that is not a multiple of 4 is
+// rounded down.
+int FloatStep(int step) { return step & ~3; }
+
 const FftSpec2D* SpecOf(const PeliFFTSpec_R_32f* p) {
   return reinterpret_cast<const FftSpec2D*>(AlignUp64(reinterpret_cast<const unsigned char*>(p)));
 }
@@ -188,7 +192,7 @@ PelStatus Transform(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep, 
   if (pBuffer == nullptr && spec.workBytes != 0) return pelStatusNullPointer;
   RoundingScope nearest(RoundingScope::kNearest);
   float* work = pBuffer != nullptr ? reinterpret_cast<float*>(AlignUp64(pBuffer)) : nullptr;
-  Fft2D(spec, pSrc, srcStep, pDst, dstStep, work, inverse);
+  Fft2D(spec, pSrc, FloatStep(srcStep), pDst, FloatStep(dstStep), work, inverse);
   return pelStatusOk;
 }
 
@@ -217,6 +221,9 @@ PelStatus PackProduct(const Pel32f* a, int aStep, const Pel32f* b, int bStep, Pe
   if (aStep < 1 || bStep < 1 || dStep < 1) return pelStatusBadStep;
   if (BadSize(roi)) return pelStatusBadSize;
   const int W = roi.width, H = roi.height;
+  aStep = FloatStep(aStep);
+  bStep = FloatStep(bStep);
+  dStep = FloatStep(dStep);
   // Every row: the pairs of columns 1 .. W - 1 (W odd) or W - 2 (W even).
   const size_t pairs = static_cast<size_t>((W - 1) / 2);
   for (int y = 0; y < H && pairs > 0; ++y)
