@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 #include <sstream>
 
 #include "support/cpu_levels.h"
@@ -170,24 +171,62 @@ std::string ArgName(const Row& row, size_t k) {
   return s.str();
 }
 
-// Every byte of every buffer as expected; the first difference is described.
+double FloatAt(const uint8_t* b, int bytes) {
+  if (bytes == 4) {
+    float f;
+    std::memcpy(&f, b, 4);
+    return f;
+  }
+  double d;
+  std::memcpy(&d, b, 8);
+  return d;
+}
+
+// The difference a tolerant argument allows: its tolerance times the largest
+// magnitude in the expected image.
+double Allowed(const Row& row, size_t k, const AnyImage& want) {
+  const Arg& a = row.args[k];
+  if (a.tolerance <= 0 || a.type.kind != 'f') return -1;
+  double largest = 0;
+  for (int y = 0; y < want.layout().height; ++y)
+    for (int x = 0; x < want.layout().width; ++x)
+      for (int c = 0; c < a.channels; ++c)
+        if (want.Has(x, y, c)) largest = std::max(largest, std::fabs(FloatAt(want.bytesAt(x, y, c), a.type.bytes)));
+  return a.tolerance * largest;
+}
+
+// Every byte of every buffer as expected (within an argument's tolerance
+// inside the ROI); the first difference is described.
 ::testing::AssertionResult SameBytes(const Row& row, const std::vector<AnyImage>& got,
                                      const std::vector<AnyImage>& want) {
   for (size_t k = 0; k < got.size(); ++k) {
     const auto& g = got[k].bytes();
     const auto& w = want[k].bytes();
-    const auto diff = std::mismatch(g.begin(), g.end(), w.begin());
-    if (diff.first == g.end()) continue;
-    const size_t index = static_cast<size_t>(diff.first - g.begin());
-    bool inside = false;
-    size_t start = 0;
-    const std::string where = got[k].Where(index, &inside, &start);
+    const double allowed = Allowed(row, k, want[k]);
+    bool inside = false, differs = false;
+    size_t start = 0, index = 0;
+    std::string where;
+    for (size_t from = 0; !differs;) {
+      const auto diff = std::mismatch(g.begin() + static_cast<ptrdiff_t>(from), g.end(),
+                                      w.begin() + static_cast<ptrdiff_t>(from));
+      if (diff.first == g.end()) break;
+      index = static_cast<size_t>(diff.first - g.begin());
+      where = got[k].Where(index, &inside, &start);
+      differs = !inside || allowed < 0;
+      if (differs) break;
+      const int bytes = row.args[k].type.bytes;
+      const double gv = FloatAt(g.data() + start, bytes), wv = FloatAt(w.data() + start, bytes);
+      differs = !(std::fabs(gv - wv) <= allowed) && !(std::isnan(gv) && std::isnan(wv));
+      from = start + static_cast<size_t>(bytes);
+    }
+    if (!differs) continue;
     auto failure = ::testing::AssertionFailure();
     failure << ArgName(row, k) << " differs at " << where << ": got ";
     if (inside) {
       const ElemType t = row.args[k].type;
       failure << ValueText(g.data() + start, t.bytes, t.kind) << ", want "
               << ValueText(w.data() + start, t.bytes, t.kind);
+      if (allowed >= 0) failure << " within " << allowed;
     } else {
       failure << int(g[index]) << ", want " << int(w[index]) << " (written outside the ROI)";
     }

@@ -95,6 +95,11 @@ struct Arg {
   // A result the export sets to zero once this check has passed: a call that
   // fails at a later check leaves zeros in it.
   std::optional<Check> zeroedAfter{};
+  // Float images whose model is exact while the export rounds along a long
+  // computation (transforms): inside the ROI an element may differ from the
+  // model by this fraction of the largest magnitude in the model's image.
+  // Bytes outside the ROI must still be equal.
+  double tolerance = 0;
 };
 
 // Member by member: a partial aggregate initializer warns with -Wextra.
