@@ -278,7 +278,6 @@ struct Row {
   // present (and then only for arguments whose StepRule is not None), bad
   // sizes only when Sizes is (set-up functions without a ROI leave it out).
   std::vector<Check> order{Check::Pointers, Check::Sizes};
-  PelStatus badStepStatus = pelStatusBadStep;
   // Not Ok: a bad-parameter row, which must fail with this status.
   PelStatus expect = pelStatusOk;
   // Shapes to run on (the ROI of the call); empty: AwkwardLayouts(channels of
@@ -288,6 +287,8 @@ struct Row {
   Layout sweepShape{0, 0};
   // Seeds the random contents; rows of one export may differ in it.
   uint32_t seed = 1;
+  // What a step below its StepRule returns (some exports call it a size error).
+  PelStatus badStepStatus = pelStatusBadStep;
 };
 
 // Runs one row on one shape under the current CPU level; gtest failures name
