@@ -26,6 +26,17 @@ inline T* Row(T* p, ptrdiff_t step, ptrdiff_t y) {
   return AddBytes(p, step * y);
 }
 
+// The same memory as bytes, for kernels that move whole pixels whatever
+// their element type.
+template <class T>
+inline const uint8_t* Bytes(const T* p) {
+  return reinterpret_cast<const uint8_t*>(p);
+}
+template <class T>
+inline uint8_t* Bytes(T* p) {
+  return reinterpret_cast<uint8_t*>(p);
+}
+
 template <class... P>
 constexpr bool AnyNull(const P*... p) {
   return ((p == nullptr) || ...);

@@ -166,15 +166,6 @@ PelStatus CheckFrame(Int srcStep, Int dstStep, Size srcRoi, Size dstRoi, Int top
   return pelStatusOk;
 }
 
-template <class T>
-const uint8_t* Bytes(const T* p) {
-  return reinterpret_cast<const uint8_t*>(p);
-}
-template <class T>
-uint8_t* Bytes(T* p) {
-  return reinterpret_cast<uint8_t*>(p);
-}
-
 // The whole destination is the window of the source extended by the rule.
 PelStatus Extend(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep,
                  const Frame& f, BorderKind kind, const void* value, PixelBytes px) {

@@ -148,15 +148,6 @@ PelStatus TransposeBytes(const uint8_t* src, int srcStep, uint8_t* dst, int dstS
   return pelStatusOk;
 }
 
-template <class T>
-const uint8_t* Bytes(const T* p) {
-  return reinterpret_cast<const uint8_t*>(p);
-}
-template <class T>
-uint8_t* Bytes(T* p) {
-  return reinterpret_cast<uint8_t*>(p);
-}
-
 }  // namespace
 
 template <class T, int C, int W>
