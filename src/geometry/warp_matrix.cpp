@@ -81,7 +81,7 @@ PelStatus GetRotateTransform(double angle, double xShift, double yShift, double 
   else if (a == 270) c = 0, s = -1;
   else c = std::cos(a / 180 * kPi), s = std::sin(a / 180 * kPi);
   coeffs[0][0] = c, coeffs[0][1] = s, coeffs[0][2] = xShift;
-  coeffs[1][0] = -s, coeffs[1][1] = c, coeffs[1][2] = yShift;
+  coeffs[1][0] = 0.0 - s, coeffs[1][1] = c, coeffs[1][2] = yShift;  // +0, not -0, at 0 and 180
   return pelStatusOk;
 }
 
