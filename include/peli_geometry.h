@@ -357,6 +357,432 @@ PELI_API PelStatus peliResizeLinear_64f_C4R_L(const Pel64f* pSrc, PelIntL srcSte
         PelIntL dstStep, PeliPointL dstOffset, PeliSizeL dstSize, PeliBorderType border,
         const Pel64f* pBorderValue, const PeliResizeSpec* pSpec, Pel8u* pBuffer);
 
+/* ============================================================================
+ * Warps: affine and perspective
+ *
+ * Matrices are row-major doubles: a 2x3 affine matrix maps (x, y) to
+ * (c00 x + c01 y + c02, c10 x + c11 y + c12); a 3x3 perspective matrix maps it
+ * to ((c00 x + c01 y + c02) / w, (c10 x + c11 y + c12) / w) with
+ * w = c20 x + c21 y + c22. Quadrangles are four points, bounding boxes two
+ * (minimum corner, maximum corner). The corners of a rectangle, in quadrangle
+ * order: (x, y), (x + width - 1, y), (x + width - 1, y + height - 1),
+ * (x, y + height - 1).
+ * ========================================================================== */
+
+/* ---- Matrix helpers -----------------------------------------------------------
+ * GetRotateTransform: the rotation by angle degrees (reduced to [0, 360)),
+ * c00 = c11 = cos, c01 = sin, c10 = -sin, then the shifts; 0, 90, 180 and 270
+ * degrees give exact 0 and +-1 entries (450 is 90, -90 is 270). A non-finite
+ * angle is pelStatusOutOfRange (-11), before the pointer check.
+ * GetRotateShift: the shifts that keep (xCenter, yCenter) in place under that
+ * rotation.
+ * GetAffineTransform: the matrix that carries the rectangle's corners 0, 1, 2
+ * onto quadrangle points 0, 1, 2. Checks: pointers (-8); x or y negative,
+ * width or height below 1 (-6); a quadrangle with a straight or reflex
+ * corner (-58); a rectangle one pixel wide or high (-57). Returns
+ * pelStatusNotParallelogramWarning (28), with the matrix, when the quadrangle
+ * is not a parallelogram within a relative 1e-10.
+ * GetAffineQuad, GetPerspectiveQuad: the rectangle's corners carried through
+ * the matrix; pelStatusCoefficientsSingular (-56), with the quadrangle
+ * written, when it is degenerate or not convex.
+ * GetAffineBound, GetPerspectiveBound: the box around that quadrangle, with
+ * the quadrangle's status.
+ * GetPerspectiveTransform: the matrix (c22 = 1) that carries the four corners
+ * onto the four points; checks as GetAffineTransform, without the warning. */
+PELI_API PelStatus peliGetRotateTransform(double angle, double xShift, double yShift, double coeffs[2][3]);
+PELI_API PelStatus peliGetRotateShift(double xCenter, double yCenter, double angle, double* xShift,
+                                      double* yShift);
+PELI_API PelStatus peliGetAffineTransform(PeliRect srcRoi, const double quad[4][2], double coeffs[2][3]);
+PELI_API PelStatus peliGetAffineQuad(PeliRect srcRoi, double quad[4][2], const double coeffs[2][3]);
+PELI_API PelStatus peliGetAffineBound(PeliRect srcRoi, double bound[2][2], const double coeffs[2][3]);
+PELI_API PelStatus peliGetPerspectiveTransform(PeliRect srcRoi, const double quad[4][2], double coeffs[3][3]);
+PELI_API PelStatus peliGetPerspectiveQuad(PeliRect srcRoi, double quad[4][2], const double coeffs[3][3]);
+PELI_API PelStatus peliGetPerspectiveBound(PeliRect srcRoi, double bound[2][2], const double coeffs[3][3]);
+
+/* ---- Warp spec ----------------------------------------------------------------
+ *   1. peliWarpAffineGetSize (or _L, or peliWarpPerspectiveGetSize): the spec
+ *      size and the size of the work buffer of a processing call
+ *   2. an Init of the method into the spec
+ *   3. per destination tile: the processing call with pSrc at source pixel
+ *      (0, 0), pDst at the tile's first pixel, the tile's offset and size.
+ * The spec starts at pSpec itself (no alignment needed); its first word is
+ * 0x4B617394. One spec may serve several threads, each with its buffer.
+ *
+ * Direction: 0, the matrix carries source to destination (as cv::warpAffine
+ * without WARP_INVERSE_MAP); 1, it carries destination to source (its inverse
+ * is the transform, as with WARP_INVERSE_MAP). Either way a destination pixel
+ * (x, y), with integer coordinates at pixel centres, is carried back to the
+ * source point (sx, sy); for perspective a pixel whose w is not positive has
+ * no source point and is read as lying far outside.
+ *
+ * Rounding: every product and sum is one double rounding (never fused), then
+ * sx is rounded to 1/1024 pixel, X = floor(1024 sx + 0.5), xi = floor(X / 1024),
+ * fx = X - 1024 xi (likewise y). A pixel depends only on its position: any
+ * tiling, any processor gives the same bytes.
+ *   Nearest: pixel round(X / 1024), halves up.
+ *   Linear:  taps xi, xi + 1 and yi, yi + 1 with weights 1024 - fx, fx.
+ *            Integer types: t = p00 (1024 - fx) + p01 fx (upper row), b likewise,
+ *            (t (1024 - fy) + b fy + 2^19) >> 20. Floats, in the element's
+ *            type: t = p00 (1 - fx/1024) + p01 fx/1024, ..., t (1 - fy/1024) + b fy/1024.
+ *   Cubic:   taps xi - 1 .. xi + 2 with the weights of the (B, C) cubic of
+ *            Mitchell and Netravali at t = fx / 1024 (B = 0, C = 0.5 is
+ *            Catmull-Rom; B = 0, C = 0.75 is cv::INTER_CUBIC); integer types
+ *            in Q14 per axis (the weights rounded, the second set to make
+ *            16384), rounded half up and saturated; floats in the type.
+ *   A tap of weight 0 is not read (the pixel itself stands for it): an exact
+ *   position on the last row or column needs nothing beyond it.
+ *
+ * Border (checked by GetSize, Init and the processing calls: above 255, or
+ * neither 240 nor kind 1, 6 or 7 is -225). A tap outside the source is
+ *   kind 1 pelBorderReplicate: the nearest source pixel;
+ *   kind 6 pelBorderConstant: the border value (pBorderValue, one double per
+ *         channel; integer types round it to nearest, ties to even, and
+ *         saturate);
+ *   kind 7: the destination pixel is left as it was (cv::BORDER_TRANSPARENT).
+ * The in-memory flags (0x10 top, 0x20 bottom, 0x40 left, 0x80 right) let
+ * taps read up to 1 (linear) or 2 (cubic) pixels beyond that side from
+ * memory; 240 is all four sides, replicated beyond that.
+ * ========================================================================== */
+
+typedef struct PeliWarpSpec PeliWarpSpec;
+
+/* Checks, in order: border (-225); pSpecSize, pInitBufSize, coeffs (-8); a
+ * width or height below 1 (-6); a side above 33554431 (-232); dataType (1, 5,
+ * 7, 13, 19, else -59); interpolation (1, 2, 6, else -23); direction (-231); a
+ * singular matrix (-56: affine, |c00 c11 - c01 c10| relative to |c00 c11| at
+ * most 1e-10; perspective, |det| at most 1e-10 max|c|^3); a size of
+ * 2147483647 or more (-232). The spec is 256 bytes; *pInitBufSize is the work
+ * buffer of a processing call, 16 x dstSize.width + 64 bytes. */
+PELI_API PelStatus peliWarpAffineGetSize(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[2][3], int interpolation, int direction, PeliBorderType border,
+        int* pSpecSize, int* pInitBufSize);
+PELI_API PelStatus peliWarpAffineGetSize_L(PeliSizeL srcSize, PeliSizeL dstSize, PelDataType dataType,
+        const double coeffs[2][3], int interpolation, int direction, PeliBorderType border,
+        PelIntL* pSpecSize, PelIntL* pInitBufSize);
+PELI_API PelStatus peliWarpPerspectiveGetSize(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[3][3], int interpolation, int direction, PeliBorderType border,
+        int* pSpecSize, int* pInitBufSize);
+
+/* Inits. Checks, in order: border (-225); coeffs, pSpec, and pBorderValue
+ * for kind 6 (-8; otherwise it may be NULL); sizes (-6, -232) and dataType
+ * (-59) as GetSize; direction (-231); numChannels not 1, 3 or 4 (-53); cubic
+ * B or C not finite (-5); smoothEdge not 0 (-14: smooth edges are not
+ * provided); a singular matrix (-56). */
+PELI_API PelStatus peliWarpAffineNearestInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpAffineNearestInit_L(PeliSizeL srcSize, PeliSizeL dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpAffineLinearInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpAffineLinearInit_L(PeliSizeL srcSize, PeliSizeL dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpAffineCubicInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, double valueB, double valueC, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpAffineCubicInit_L(PeliSizeL srcSize, PeliSizeL dstSize, PelDataType dataType,
+        const double coeffs[2][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, double valueB, double valueC, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpPerspectiveNearestInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[3][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpPerspectiveLinearInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[3][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, int smoothEdge, PeliWarpSpec* pSpec);
+PELI_API PelStatus peliWarpPerspectiveCubicInit(PeliSize srcSize, PeliSize dstSize, PelDataType dataType,
+        const double coeffs[3][3], int direction, int numChannels, PeliBorderType border,
+        const double* pBorderValue, double valueB, double valueC, int smoothEdge, PeliWarpSpec* pSpec);
+
+/* ---- Processing ---------------------------------------------------------------
+ * Checks, in order: a non-NULL spec without the magic (-13, before the
+ * pointers); pSrc, pDst, pSpec, pBuffer (-8); a width 0 with a height not
+ * negative, or a height 0 with a positive width (pelStatusNoOperation, 1); a
+ * spec of another method, element type, channel count or of the other warp
+ * (-13); a width or height below 1 (-6); an offset outside the destination
+ * (-11); a status Init recorded in the spec, returned as it is; the border
+ * (-225). A tile that runs past the destination is cut to fit and the call
+ * returns pelStatusAdjusted (48). Steps are not checked. pBuffer: the
+ * GetSize buffer size (16 x tile width + 64 bytes at least). */
+/* Affine nearest: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpAffineNearest_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_8u_C1R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_8u_C3R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_8u_C4R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C1R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C3R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16u_C4R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C1R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C3R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_16s_C4R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C1R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C3R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_32f_C4R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C1R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C3R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineNearest_64f_C4R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+/* Affine linear: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpAffineLinear_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_8u_C1R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_8u_C3R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_8u_C4R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C1R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C3R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16u_C4R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C1R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C3R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_16s_C4R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C1R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C3R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_32f_C4R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C1R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C3R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineLinear_64f_C4R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+/* Affine cubic: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpAffineCubic_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_8u_C1R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_8u_C3R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_8u_C4R_L(const Pel8u* pSrc, PelIntL srcStep, Pel8u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C1R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C3R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16u_C4R_L(const Pel16u* pSrc, PelIntL srcStep, Pel16u* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C1R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C3R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_16s_C4R_L(const Pel16s* pSrc, PelIntL srcStep, Pel16s* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C1R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C3R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_32f_C4R_L(const Pel32f* pSrc, PelIntL srcStep, Pel32f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C1R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C3R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpAffineCubic_64f_C4R_L(const Pel64f* pSrc, PelIntL srcStep, Pel64f* pDst, PelIntL dstStep,
+        PeliPointL dstRoiOffset, PeliSizeL dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+/* Perspective nearest: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpPerspectiveNearest_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveNearest_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+/* Perspective linear: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpPerspectiveLinear_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveLinear_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+/* Perspective cubic: 8u, 16u, 16s, 32f, 64f; one, three or four channels. */
+PELI_API PelStatus peliWarpPerspectiveCubic_8u_C1R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_8u_C3R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_8u_C4R(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16u_C1R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16u_C3R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16u_C4R(const Pel16u* pSrc, int srcStep, Pel16u* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16s_C1R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16s_C3R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_16s_C4R(const Pel16s* pSrc, int srcStep, Pel16s* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_32f_C1R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_32f_C3R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_32f_C4R(const Pel32f* pSrc, int srcStep, Pel32f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_64f_C1R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_64f_C3R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+PELI_API PelStatus peliWarpPerspectiveCubic_64f_C4R(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep,
+        PeliPoint dstRoiOffset, PeliSize dstRoiSize, const PeliWarpSpec* pSpec, Pel8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif

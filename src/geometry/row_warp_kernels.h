@@ -1,0 +1,47 @@
+// Row kernels of the warps, dispatched to the best instruction set at run
+// time. A row is two passes over the tile row: the coordinates of every
+// pixel into the work buffer, then the pixels, on vectors where all of a
+// pixel's taps lie well inside the source and one at a time elsewhere.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "geometry/warp_spec.h"
+
+namespace pel::geometry {
+
+// What a processing call fixes for all its rows.
+struct WarpFrame {
+  const uint8_t* src;  // source pixel (0, 0)
+  ptrdiff_t srcStep;
+  int64_t srcWidth, srcHeight;
+  int channels;
+  int elem;    // WarpElem
+  int method;  // 1 nearest, 2 linear, 6 cubic
+  bool perspective;
+  // 1 clamp to the readable region (replicate, and every side of 240),
+  // 6 constant, 7 leave the pixel.
+  int kind;
+  // The readable region: the source, widened on the sides that are in memory
+  // by the reach of the method (linear 1, cubic 2 pixels).
+  int64_t loX, hiX, loY, hiY;
+  alignas(8) uint8_t borderPixel[32];  // the constant pixel in the element type
+  double cubicB, cubicC;
+  double back[3][3];
+  // The source's byte offsets fit 32-bit gathers (the vector kernels need it).
+  bool offsets32;
+};
+
+// The work buffer's four arrays for one tile row.
+struct WarpCoords {
+  int32_t* xi;
+  int32_t* yi;
+  int32_t* fx;
+  int32_t* fy;
+};
+
+// Pixels x0 .. x0 + n - 1 of destination row y into dstRow.
+void WarpRow(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow, const WarpCoords& c);
+
+}  // namespace pel::geometry
