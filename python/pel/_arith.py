@@ -1,0 +1,131 @@
+"""Arithmetic, logic and shifts: two images, or an image and a constant.
+
+Each operation is one row of _BINARY: the Python name, the export stem for
+two images and for a constant, whether the C call takes its operands in
+the other order (Sub and Div compute src2 - src1 and src2 / src1), and
+whether integer members take a scale factor (Sfs).
+"""
+import numpy as np
+
+from ._core import ABI, bind, channels, forms, output, pick, same, values
+
+_ROUND = {"zero": 0, "near": 1, "nearest": 1, "half_away": 2, "alternate": 2}
+
+#         name           images      constant    swapped  Sfs
+_BINARY = [("add",         "peliAdd",  "peliAddC", False, True),
+           ("sub",         "peliSub",  "peliSubC", True,  True),
+           ("mul",         "peliMul",  "peliMulC", False, True),
+           ("div",         "peliDiv",  "peliDivC", True,  True),
+           ("bitwise_and", "peliAnd",  "peliAndC", False, False),
+           ("bitwise_or",  "peliOr",   "peliOrC",  False, False),
+           ("bitwise_xor", "peliXor",  "peliXorC", False, False),
+           ("minimum",     "peliMinEvery", None,   False, False),
+           ("maximum",     "peliMaxEvery", None,   False, False)]
+
+#         name      stem       Sfs
+_UNARY = [("sqrt", "peliSqrt", False), ("ln", "peliLn", False), ("abs", "peliAbs", False),
+          ("bitwise_not", "peliNot", False)]
+
+
+def _suffix(stem, a, inplace, scaled):
+    """R, IR, RSfs or IRSfs: the form this stem has for a's element type."""
+    base = "IR" if inplace else "R"
+    if scaled and a.dtype.kind in "ui":
+        f = forms(stem, base + "Sfs")
+        if f:
+            return base + "Sfs"
+    return base
+
+
+def _binary(name, stem, cstem, swapped, scaled):
+    def op(a, b, out=None, scale=0, round=None):
+        channels(a, "src1")
+        if isinstance(b, np.ndarray) and b.ndim >= 2:
+            same(a, b)
+            st = stem
+            if round is not None:
+                if name != "div":
+                    raise TypeError("%s takes no round mode" % name)
+                if round not in _ROUND:
+                    raise ValueError("round: expected one of %s" % ", ".join(_ROUND))
+                st = "peliDiv_Round"
+            kw = {"rndMode": _ROUND[round]} if round is not None else {}
+            if out is a and forms(st, _suffix(st, a, True, scaled)):
+                # The in-place form computes srcDst = srcDst op src: a op b.
+                sfx = _suffix(st, a, True, scaled)
+                if sfx.endswith("Sfs"):
+                    kw["scaleFactor"] = int(scale)
+                bind(pick(st, a, sfx))(pSrc=b, pSrcDst=a, **kw)
+                return a
+            sfx = _suffix(st, a, False, scaled)
+            if sfx.endswith("Sfs"):
+                kw["scaleFactor"] = int(scale)
+            dst = output(out, a.shape, a.dtype)
+            # The C call's first image is the Python second one for Sub and Div.
+            x, y = (b, a) if swapped else (a, b)
+            bind(pick(st, a, sfx))(pSrc1=x, pSrc2=y, pDst=dst, **kw)
+            return dst
+        if cstem is None:
+            raise TypeError("%s: expected an image as the second operand" % name)
+        c = channels(a, "src1")
+        v = values(b, c, a.dtype)
+        v = v[0] if c == 1 else v
+        inplace = out is a
+        sfx = _suffix(cstem, a, inplace, scaled)
+        kw = {"scaleFactor": int(scale)} if sfx.endswith("Sfs") else {}
+        if inplace:
+            bind(pick(cstem, a, sfx))(value=v, pSrcDst=a, **kw)
+            return a
+        dst = output(out, a.shape, a.dtype)
+        bind(pick(cstem, a, sfx))(pSrc=a, value=v, pDst=dst, **kw)
+        return dst
+    op.__name__ = name
+    op.__doc__ = ("%s(a, b, out=None, scale=0): element-wise %s of two images, or of an "
+                  "image and a constant (one number, or one a channel). Integer results "
+                  "are multiplied by 2**-scale, rounded to nearest even and saturated."
+                  % (name, name))
+    return op
+
+
+def _unary(name, stem):
+    def op(src, out=None):
+        channels(src, "src")
+        if out is src and forms(stem, "IR"):
+            bind(pick(stem, src, "IR"))(pSrcDst=src)
+            return src
+        dst = output(out, src.shape, src.dtype)
+        bind(pick(stem, src))(pSrc=src, pDst=dst)
+        return dst
+    op.__name__ = name
+    op.__doc__ = "%s(src, out=None): element-wise %s." % (name, name)
+    return op
+
+
+def _shift(name, stem):
+    def op(src, count, out=None):
+        c = channels(src, "src")
+        v = values(count, c, np.uint32, "count")
+        v = v[0] if c == 1 else v
+        if out is src:
+            bind(pick(stem, src, "IR"))(value=v, pSrcDst=src)
+            return src
+        dst = output(out, src.shape, src.dtype)
+        bind(pick(stem, src))(pSrc=src, value=v, pDst=dst)
+        return dst
+    op.__name__ = name
+    op.__doc__ = "%s(src, count, out=None): bit shift by a count (one, or one a channel)." % name
+    return op
+
+
+def _build():
+    ops = {}
+    for row in _BINARY:
+        ops[row[0]] = _binary(*row)
+    for name, stem, _ in _UNARY:
+        ops[name] = _unary(name, stem)
+    ops["lshift"] = _shift("lshift", "peliLShiftC")
+    ops["rshift"] = _shift("rshift", "peliRShiftC")
+    return ops
+
+
+OPS = _build()
