@@ -39,13 +39,13 @@ def _spatial(x):
     return x.rechunk({2: -1}) if x.ndim == 3 else x
 
 
-def pointwise(op, *arrays, **kwargs):
-    """op(*chunks, **kwargs) on matching chunks of arrays of one shape."""
+def pointwise(fn, /, *arrays, **kwargs):
+    """fn(*chunks, **kwargs) on matching chunks of arrays of one shape."""
     arrays = [_spatial(a) if isinstance(a, da.Array) else a for a in arrays]
     first = next(a for a in arrays if isinstance(a, da.Array))
-    meta = op(*[np.zeros((1, 1) + a.shape[2:], a.dtype) if isinstance(a, da.Array) else a
+    meta = fn(*[np.zeros((1, 1) + a.shape[2:], a.dtype) if isinstance(a, da.Array) else a
                 for a in arrays], **kwargs)
-    return da.map_blocks(lambda *b: op(*b, **kwargs), *arrays, dtype=meta.dtype,
+    return da.map_blocks(lambda *b: fn(*b, **kwargs), *arrays, dtype=meta.dtype,
                          chunks=first.chunks[:2] + ((meta.shape[2],) if meta.ndim == 3 else ()),
                          drop_axis=[2] if meta.ndim < first.ndim else None)
 
@@ -119,7 +119,9 @@ def resize(x, size, interpolation="linear", border="replicate", chunks=None):
             ex, ey = min(sx + sw + br, W), min(sy + sh + bb, H)
             part = x[ay:ey, ax:ex]
             tile = dask.delayed(_tile)(part, (ax, ay), args, (x0, y0), (tw, th), border)
-            row.append(da.from_delayed(tile, (th, tw) + x.shape[2:], x.dtype))
+            block = da.from_delayed(tile, (th, tw) + x.shape[2:], x.dtype)
+            # da.block joins the innermost lists along the last axis.
+            row.append([block] if x.ndim == 3 else block)
             x0 += tw
         rows.append(row)
         y0 += th
