@@ -38,46 +38,67 @@ def _suffix(stem, a, inplace, scaled):
 
 
 def _binary(name, stem, cstem, swapped, scaled):
+    resolved = {}
+
+    def resolve(st, a, inplace):
+        """(bound call, takes a scale factor) for this type, layout and form."""
+        key = (st, a.dtype, a.shape[2:], inplace)
+        hit = resolved.get(key)
+        if hit is None:
+            if inplace and not forms(st, _suffix(st, a, True, scaled)):
+                return None
+            sfx = _suffix(st, a, inplace, scaled)
+            hit = resolved[key] = (bind(pick(st, a, sfx)), sfx.endswith("Sfs"))
+        return hit
+
     def op(a, b, out=None, scale=0, round=None):
         channels(a, "src1")
-        if isinstance(b, np.ndarray) and b.ndim >= 2:
-            same(a, b)
-            st = stem
+        if type(b) is np.ndarray and b.ndim >= 2 or isinstance(b, np.ndarray) and b.ndim >= 2:
+            if b.dtype != a.dtype or b.shape != a.shape:
+                same(a, b)
+            channels(b, "src2")
+            st, kw = stem, {}
             if round is not None:
                 if name != "div":
                     raise TypeError("%s takes no round mode" % name)
                 if round not in _ROUND:
                     raise ValueError("round: expected one of %s" % ", ".join(_ROUND))
-                st = "peliDiv_Round"
-            kw = {"rndMode": _ROUND[round]} if round is not None else {}
-            if out is a and forms(st, _suffix(st, a, True, scaled)):
+                st, kw = "peliDiv_Round", {"rndMode": _ROUND[round]}
+            hit = resolve(st, a, True) if out is a else None
+            if hit is not None:
                 # The in-place form computes srcDst = srcDst op src: a op b.
-                sfx = _suffix(st, a, True, scaled)
-                if sfx.endswith("Sfs"):
-                    kw["scaleFactor"] = int(scale)
-                bind(pick(st, a, sfx))(pSrc=b, pSrcDst=a, **kw)
+                if hit[1]:
+                    kw["scaleFactor"] = scale
+                hit[0](pSrc=b, pSrcDst=a, **kw)
                 return a
-            sfx = _suffix(st, a, False, scaled)
-            if sfx.endswith("Sfs"):
-                kw["scaleFactor"] = int(scale)
+            f, sfs = resolve(st, a, False)
+            if sfs:
+                kw["scaleFactor"] = scale
             dst = output(out, a.shape, a.dtype)
             # The C call's first image is the Python second one for Sub and Div.
-            x, y = (b, a) if swapped else (a, b)
-            bind(pick(st, a, sfx))(pSrc1=x, pSrc2=y, pDst=dst, **kw)
+            if swapped:
+                f(pSrc1=b, pSrc2=a, pDst=dst, **kw)
+            else:
+                f(pSrc1=a, pSrc2=b, pDst=dst, **kw)
             return dst
         if cstem is None:
             raise TypeError("%s: expected an image as the second operand" % name)
-        c = channels(a, "src1")
+        c = a.shape[2] if a.ndim == 3 else 1
         v = values(b, c, a.dtype)
         v = v[0] if c == 1 else v
-        inplace = out is a
-        sfx = _suffix(cstem, a, inplace, scaled)
-        kw = {"scaleFactor": int(scale)} if sfx.endswith("Sfs") else {}
-        if inplace:
-            bind(pick(cstem, a, sfx))(value=v, pSrcDst=a, **kw)
+        hit = resolve(cstem, a, True) if out is a else None
+        if hit is not None:
+            if hit[1]:
+                hit[0](value=v, pSrcDst=a, scaleFactor=scale)
+            else:
+                hit[0](value=v, pSrcDst=a)
             return a
+        f, sfs = resolve(cstem, a, False)
         dst = output(out, a.shape, a.dtype)
-        bind(pick(cstem, a, sfx))(pSrc=a, value=v, pDst=dst, **kw)
+        if sfs:
+            f(pSrc=a, value=v, pDst=dst, scaleFactor=scale)
+        else:
+            f(pSrc=a, value=v, pDst=dst)
         return dst
     op.__name__ = name
     op.__doc__ = ("%s(a, b, out=None, scale=0): element-wise %s of two images, or of an "

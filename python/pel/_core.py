@@ -74,7 +74,18 @@ def channels(a, what="image", allowed=(1, 3, 4)):
     """The channel count of an image array: H x W is 1, H x W x C is C. Also
     checks that the pixels of a row are contiguous, which a C step can
     describe, and that the rows lie at a positive int distance."""
-    if not isinstance(a, np.ndarray):
+    if type(a) is np.ndarray:
+        # The common case in few steps: rows of contiguous pixels at a
+        # positive step.
+        s = a.strides
+        if a.ndim == 2:
+            if s[1] == a.itemsize and 0 < s[0] <= _INT_MAX and 1 in allowed:
+                return 1
+        elif a.ndim == 3:
+            c = a.shape[2]
+            if s[2] == a.itemsize and s[1] == s[2] * c and 0 < s[0] <= _INT_MAX and c in allowed:
+                return c
+    elif not isinstance(a, np.ndarray):
         raise TypeError("%s: expected a numpy array, got %s" % (what, type(a).__name__))
     # An empty image has no layout to check; the library answers for it.
     s = a.strides if a.size else (1 << 20, a.itemsize * a.shape[-1] if a.ndim == 3 else a.itemsize, a.itemsize)
@@ -103,6 +114,10 @@ def output(out, shape, dtype, what="out"):
     """The destination: out= checked against what the call writes, or a new array."""
     if out is None:
         return np.empty(shape, dtype)
+    if type(out) is np.ndarray and out.dtype == dtype and out.shape == shape \
+            and out.flags.writeable:
+        channels(out, what, (1, 2, 3, 4))
+        return out
     if not isinstance(out, np.ndarray):
         raise TypeError("%s: expected a numpy array, got %s" % (what, type(out).__name__))
     if out.dtype != dtype:
@@ -141,8 +156,15 @@ def forms(stem, suffix=r"R"):
     return got
 
 
+_picked = {}
+
+
 def pick(stem, a, suffix="R", layout=None, what="src"):
     """The export of stem for the array's element type and channel count."""
+    key = (stem, suffix, layout, a.dtype, a.shape[2] if a.ndim == 3 else 1)
+    name = _picked.get(key)
+    if name is not None:
+        return name
     c = channels(a, what)
     tok = TOKENS.get(a.dtype)
     lay = layout or LAYOUTS[c]
@@ -154,10 +176,27 @@ def pick(stem, a, suffix="R", layout=None, what="src"):
         raise TypeError("%s: no form for dtype %s with %s; expected one of: %s" % (
             stem, a.dtype, lay, ", ".join("%s %s" % (DTYPES[t], l) for t, l in have
                                           if t in DTYPES)))
+    _picked[key] = name
     return name
 
 
 # ---- Bound calls ---------------------------------------------------------------
+# The data address of an array, read from the array object itself: numpy's
+# object layout puts the data pointer right after the Python object header,
+# a fixed part of numpy's C ABI. It costs a tenth of a.ctypes.data, which
+# matters for small images; if a numpy ever disagrees, the slow way is used.
+_from_address = ctypes.c_void_p.from_address
+_DATA_OFFSET = 2 * ctypes.sizeof(ctypes.c_void_p)
+
+
+def _probe():
+    a = np.zeros((3, 5), np.uint8)[1:, 2:]
+    return _from_address(id(a) + _DATA_OFFSET).value == a.ctypes.data
+
+
+_FAST_PTR = _probe()
+_PTR = "_fa(id(%s) + _OFF).value" if _FAST_PTR else "%s.ctypes.data"
+
 Size = ABI.types["PeliSize"]
 Point = ABI.types["PeliPoint"]
 _bound = {}
@@ -190,6 +229,19 @@ def _addr(v):
     return ctypes.addressof(v)
 
 
+_sizes = {}
+
+
+def _roi(shape):
+    """The PeliSize of an image shape, kept: ctypes copies it into the call."""
+    s = _sizes.get(shape)
+    if s is None:
+        if len(_sizes) > 256:
+            _sizes.clear()
+        s = _sizes[shape] = Size(shape[1], shape[0])
+    return s
+
+
 def bind(name):
     """A function of the export's C parameter names; images and arrays are
     numpy arrays already checked by the caller, sizes (width, height)
@@ -204,7 +256,8 @@ def bind(name):
     steps = {v: k for k, v in pairs.items()}
     first = _first_image(params, pairs)
     ns = {"_f": raw.function(name).cfunc, "_check": check, "_name": name, "_Size": Size,
-          "_addr": _addr, "_ctypes": ctypes}
+          "_addr": _addr, "_ctypes": ctypes, "_fa": _from_address, "_OFF": _DATA_OFFSET,
+          "_roi": _roi}
     args, exprs, defaults = [], [], []
     for i, p in enumerate(params):
         n = p.name
@@ -215,10 +268,10 @@ def bind(name):
             continue
         if p.ptrarray:
             args.append(n)
-            exprs.append("(_ctypes.c_void_p * len(%s))(*[x.ctypes.data for x in %s])" % (n, n))
+            exprs.append("(_ctypes.c_void_p * len(%s))(*[%s for x in %s])" % (n, _PTR % "x", n))
         elif n in pairs:
             args.append(n)
-            exprs.append("%s.ctypes.data" % n)
+            exprs.append(_PTR % n)
         elif p.pointer and p.const and p.count:
             args.append(n)
             ns["_A%d" % i] = p.ctype * p.count
@@ -228,10 +281,9 @@ def bind(name):
             exprs.append("_addr(%s)" % n)
         elif p.base in ("PeliSize", "PeliSizeL", "PeliPoint", "PeliPointL"):
             ns["_T%d" % i] = p.ctype
-            if n == "roiSize" and first:
+            if n == "roiSize" and first and p.base == "PeliSize":
                 defaults.append("%s=None" % n)
-                exprs.append("(_T%d(%s.shape[1], %s.shape[0]) if %s is None else _T%d(*%s))"
-                             % (i, first, first, n, i, n))
+                exprs.append("(_roi(%s.shape) if %s is None else _T%d(*%s))" % (first, n, i, n))
             else:
                 args.append(n)
                 exprs.append("_T%d(*%s)" % (i, n))
@@ -246,9 +298,17 @@ def bind(name):
     return f
 
 
+_RANGES = {np.dtype(t): (np.iinfo(t).min, np.iinfo(t).max)
+           for t in (np.uint8, np.int8, np.uint16, np.int16, np.uint32, np.int32)}
+
+
 def values(v, c, dtype, what="value"):
     """A per-channel constant: a number for every channel or one per channel,
     checked against the element type's range."""
+    if c == 1 and type(v) is int:
+        r = _RANGES.get(dtype)
+        if r is not None and r[0] <= v <= r[1]:
+            return [v]
     if np.ndim(v) == 0:
         v = [v] * c
     v = list(v)
@@ -256,11 +316,11 @@ def values(v, c, dtype, what="value"):
         raise ValueError("%s: expected %d values (one a channel), got %d" % (what, c, len(v)))
     dt = np.dtype(dtype)
     if dt.kind in "ui":
-        info = np.iinfo(dt)
+        lo, hi = _RANGES.get(dt) or (np.iinfo(dt).min, np.iinfo(dt).max)
         for x in v:
             if isinstance(x, (float, np.floating)) and float(x) != int(x):
                 raise TypeError("%s: expected integers for dtype %s, got %r" % (what, dt, x))
-            if not info.min <= x <= info.max:
+            if not lo <= x <= hi:
                 raise ValueError("%s: %r is outside the range of %s" % (what, x, dt))
         return [int(x) for x in v]
     return [float(x) for x in v]

@@ -20,8 +20,9 @@ def _candidates():
         yield os.path.normpath(os.path.join(_HERE, libdir, _NAME))
     # Running from a source tree: the release build beside it.
     repo = os.path.normpath(os.path.join(_HERE, "..", ".."))
-    for preset in ("release", "clang", "debug", "asan"):
-        yield os.path.join(repo, "build", preset, "src", _NAME)
+    if os.path.isfile(os.path.join(repo, "include", "peli.h")):
+        for preset in ("release", "clang", "debug", "asan"):
+            yield os.path.join(repo, "build", preset, "src", _NAME)
     yield _NAME  # the system's search path (ldconfig, LD_LIBRARY_PATH)
 
 
