@@ -66,24 +66,28 @@ class Resize:
         c = channels(src, "src")
         if src.dtype != self.dtype:
             raise TypeError("src: expected dtype %s, got %s" % (self.dtype, src.dtype))
-        o = Point()
-        bind("peliResizeGetSrcOffset_" + self.tok)(pSpec=self.spec, dstOffset=offset, pSrcOffset=o)
-        view = src[o.y - src_origin[1]:, o.x - src_origin[0]:]
+        if offset == (0, 0) and src_origin == (0, 0):
+            view = src  # the first tile reads from the first source pixel
+        else:
+            o = Point()
+            bind("peliResizeGetSrcOffset_" + self.tok)(pSpec=self.spec, dstOffset=offset,
+                                                       pSrcOffset=o)
+            view = src[o.y - src_origin[1]:, o.x - src_origin[0]:]
         dst = output(out, (size[1], size[0]) + src.shape[2:], src.dtype)
         kw = {}
         if self.method == "Linear":
             if border not in _BORDER:
                 raise ValueError("border: expected one of %s, got %r" % (", ".join(_BORDER), border))
             kw = {"border": _BORDER[border], "pBorderValue": None}
-        name = pick("peliResize" + self.method, src)
-        bind(name)(pSrc=view, pDst=dst, dstOffset=offset, dstSize=size, pSpec=self.spec,
+        bind(pick("peliResize" + self.method, src))(pSrc=view, pDst=dst, dstOffset=offset, dstSize=size, pSpec=self.spec,
                    pBuffer=self.buffer(size, c), **kw)
         return dst
 
 
 def resizer(dtype, src_size, dst_size, interpolation="linear"):
     """The cached Resize object for these arguments."""
-    key = (np.dtype(dtype), tuple(src_size), tuple(dst_size), interpolation)
+    key = (dtype if isinstance(dtype, np.dtype) else np.dtype(dtype), tuple(src_size),
+           tuple(dst_size), interpolation)
     r = _specs.get(key)
     if r is None:
         r = Resize(dtype, src_size, dst_size, interpolation)
@@ -100,5 +104,5 @@ def resize(src, size, interpolation="linear", border="replicate", out=None):
     'nearest' takes the pixel whose centre is nearest below."""
     channels(src, "src")
     w, h = int(size[0]), int(size[1])
-    r = resizer(src.dtype, (src.shape[1], src.shape[0]), (w, h), interpolation)
+    r = resizer(np.dtype(src.dtype), (src.shape[1], src.shape[0]), (w, h), interpolation)
     return r.tile(src, (0, 0), (0, 0), (w, h), border, out)

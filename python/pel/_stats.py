@@ -21,9 +21,7 @@ def _reduce(stem, what, src, **kw):
     c = channels(src, "src")
     name = pick(stem, src)
     res = np.zeros(c, np.float64)
-    out = [p.name for p in ABI.prototype(name).params if p.pointer and not p.const
-           and p.name not in ("pSrc",)][0]
-    kw[out] = res
+    kw[_first_out(name)] = res
     bind(name)(pSrc=src, **kw)
     return _result(res, c)
 
@@ -40,11 +38,15 @@ def mean(src, accurate=False):
     return _reduce("peliMean", "mean", src, **kw)
 
 
+_hinted = {}
+
+
 def _hint(stem, src, accurate):
     name = pick(stem, src)
-    if any(p.name == "hint" for p in ABI.prototype(name).params):
-        return {"hint": _HINT["accurate" if accurate else "fast"]}
-    return {}
+    has = _hinted.get(name)
+    if has is None:
+        has = _hinted[name] = any(p.name == "hint" for p in ABI.prototype(name).params)
+    return {"hint": _HINT["accurate" if accurate else "fast"]} if has else {}
 
 
 def _norm_stem(kind, base):
@@ -101,14 +103,26 @@ def _dot_forms():
             if t.endswith("64f") and t[:-3] in DTYPES}
 
 
+_outs = {}
+
+
+def _out_params(name):
+    """The parameters an export writes its results to, in order."""
+    got = _outs.get(name)
+    if got is None:
+        got = _outs[name] = [p for p in ABI.prototype(name).params if p.pointer and not p.const
+                             and not p.name.startswith("pSrc")]
+    return got
+
+
 def _first_out(name):
-    return [p.name for p in ABI.prototype(name).params if p.pointer and not p.const][0]
+    return _out_params(name)[0].name
 
 
 def _extreme(stem, src):
     c = channels(src, "src")
     name = pick(stem, src)
-    outs = [p for p in ABI.prototype(name).params if p.pointer and not p.const]
+    outs = _out_params(name)
     arrs = {p.name: np.zeros(c, src.dtype if p.base != "int" else np.int32) for p in outs}
     bind(name)(pSrc=src, **arrs)
     return [arrs[p.name] for p in outs], c

@@ -105,7 +105,7 @@ def resize(x, size, interpolation="linear", border="replicate", chunks=None):
         chunks = (_split(h, len(x.chunks[0])), _split(w, len(x.chunks[1])))
     else:
         chunks = da.core.normalize_chunks(chunks[:2], (h, w))
-    args = (x.dtype, (W, H), (w, h), interpolation)
+    args = (np.dtype(x.dtype), (W, H), (w, h), interpolation)
     r = _geometry.resizer(*args)
     bl, bt, br, bb = r.border_size
     rows = []
