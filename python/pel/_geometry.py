@@ -41,8 +41,11 @@ class Resize:
         # How far past its source region a tile reads: left, top, right, bottom.
         self.border_size = (b.borderLeft, b.borderTop, b.borderRight, b.borderBottom)
         self._bufsize = {}
+        self._local = threading.local()
 
     def buffer(self, tile_size, c):
+        """A work buffer for a tile: one kept a thread, so that concurrent
+        calls never share one and a call does not map fresh pages."""
         key = (tuple(tile_size), c)
         n = self._bufsize.get(key)
         if n is None:
@@ -50,7 +53,10 @@ class Resize:
             bind("peliResizeGetBufferSize_" + self.tok)(pSpec=self.spec, dstSize=tile_size,
                                                         numChannels=c, pBufSize=got)
             n = self._bufsize[key] = max(int(got[0]), 1)
-        return np.empty(n, np.uint8)
+        buf = getattr(self._local, "buf", None)
+        if buf is None or buf.size < n:
+            buf = self._local.buf = np.empty(n, np.uint8)
+        return buf
 
     def src_roi(self, offset, size):
         """The source region (x, y, width, height) a destination tile reads,

@@ -33,10 +33,15 @@ class FFT:
         init = np.zeros(max(int(sizes[1][0]), 1), np.uint8)
         bind("peliFFTInit_R_32f")(pSpec=self.spec, pMemInit=init, **args)
         self.work = max(int(sizes[2][0]), 1)
+        self._local = threading.local()
 
     def run(self, name, src, out):
         dst = output(out, src.shape, np.float32)
-        bind(name)(pSrc=src, pDst=dst, pSpec=self.spec, pBuffer=np.empty(self.work, np.uint8))
+        # One work buffer a thread: concurrent calls never share one.
+        buf = getattr(self._local, "buf", None)
+        if buf is None:
+            buf = self._local.buf = np.empty(self.work, np.uint8)
+        bind(name)(pSrc=src, pDst=dst, pSpec=self.spec, pBuffer=buf)
         return dst
 
 
