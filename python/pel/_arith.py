@@ -7,7 +7,7 @@ whether integer members take a scale factor (Sfs).
 """
 import numpy as np
 
-from ._core import ABI, bind, channels, forms, output, pick, same, values
+from ._core import bind, channels, forms, integer, output, pick, same, values
 
 _ROUND = {"zero": 0, "near": 1, "nearest": 1, "half_away": 2, "alternate": 2}
 
@@ -53,6 +53,8 @@ def _binary(name, stem, cstem, swapped, scaled):
 
     def op(a, b, out=None, scale=0, round=None):
         channels(a, "src1")
+        if type(scale) is not int or not -2147483648 <= scale <= 2147483647:
+            scale = integer(scale, "scale")
         if type(b) is np.ndarray and b.ndim >= 2 or isinstance(b, np.ndarray) and b.ndim >= 2:
             if b.dtype != a.dtype or b.shape != a.shape:
                 same(a, b)

@@ -298,6 +298,15 @@ def bind(name):
     return f
 
 
+def integer(v, what):
+    """v as a Python int in the C int range, or TypeError/ValueError."""
+    if isinstance(v, (bool, np.bool_)) or not isinstance(v, (int, np.integer)):
+        raise TypeError("%s: expected an integer, got %r" % (what, v))
+    if not -2 ** 31 <= v < 2 ** 31:
+        raise ValueError("%s: %d is outside the C int range" % (what, v))
+    return int(v)
+
+
 _RANGES = {np.dtype(t): (np.iinfo(t).min, np.iinfo(t).max)
            for t in (np.uint8, np.int8, np.uint16, np.int16, np.uint32, np.int32)}
 

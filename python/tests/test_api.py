@@ -53,6 +53,7 @@ def test_raw_call_and_checks():
     (lambda: pel.copy(np.zeros((4, 4), np.uint8), out=np.broadcast_to(np.zeros(4, np.uint8), (4, 4))), ValueError, "read-only"),
     (lambda: pel.copy([[1, 2]]), TypeError, "numpy array"),
     (lambda: pel.add(np.zeros((4, 4), np.uint8), 256), ValueError, "outside the range"),
+    (lambda: pel.add(np.zeros((4, 4), np.uint8), 1, scale=2 ** 40), ValueError, "C int range"),
     (lambda: pel.convert(np.zeros((2, 2), np.float64), np.int8), TypeError, "pairs"),
     (lambda: pel.mirror(np.zeros((2, 2), np.uint8), "up"), ValueError, "axis"),
     (lambda: pel.fft(np.zeros((6, 8), np.float32)), ValueError, "power of two"),

@@ -10,23 +10,19 @@ import pel.dask
 from conftest import random_image
 
 
-def box3(padded):
-    """A 3 x 3 sum (float32) out of pel calls: a filter with reach 1."""
-    h, w = padded.shape[0] - 2, padded.shape[1] - 2
-    acc = np.zeros((h, w) + padded.shape[2:], np.float32)
-    for dy in range(3):
-        for dx in range(3):
-            pel.add(acc, padded[dy:dy + h, dx:dx + w], out=acc)
-    return acc
+def box(k):
+    """A k x k sum (float32) out of pel calls: a filter with reach k // 2."""
+    def fn(padded):
+        h, w = padded.shape[0] - k + 1, padded.shape[1] - k + 1
+        acc = np.zeros((h, w) + padded.shape[2:], np.float32)
+        for dy in range(k):
+            for dx in range(k):
+                pel.add(acc, padded[dy:dy + h, dx:dx + w], out=acc)
+        return acc
+    return fn
 
 
-def box5(padded):
-    h, w = padded.shape[0] - 4, padded.shape[1] - 4
-    acc = np.zeros((h, w) + padded.shape[2:], np.float32)
-    for dy in range(5):
-        for dx in range(5):
-            pel.add(acc, padded[dy:dy + h, dx:dx + w], out=acc)
-    return acc
+box3, box5 = box(3), box(5)
 
 
 @pytest.mark.parametrize("c", [1, 3])
