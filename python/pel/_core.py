@@ -224,9 +224,26 @@ def _first_image(params, pairs):
 def _addr(v):
     if v is None:
         return None
+    if type(v) is np.ndarray:
+        return _from_address(id(v) + _DATA_OFFSET).value if _FAST_PTR else v.ctypes.data
     if isinstance(v, np.ndarray):
         return v.ctypes.data
     return ctypes.addressof(v)
+
+
+_structs = {}
+
+
+def _struct(t, v):
+    """A PeliSize or PeliPoint for a tuple, kept: ctypes copies it into the
+    call, and building one costs more than the lookup."""
+    key = (t, v) if type(v) is tuple else (t, tuple(v))
+    s = _structs.get(key)
+    if s is None:
+        if len(_structs) > 1024:
+            _structs.clear()
+        s = _structs[key] = t(*key[1])
+    return s
 
 
 _sizes = {}
@@ -257,7 +274,7 @@ def bind(name):
     first = _first_image(params, pairs)
     ns = {"_f": raw.function(name).cfunc, "_check": check, "_name": name, "_Size": Size,
           "_addr": _addr, "_ctypes": ctypes, "_fa": _from_address, "_OFF": _DATA_OFFSET,
-          "_roi": _roi}
+          "_roi": _roi, "_st": _struct}
     args, exprs, defaults = [], [], []
     for i, p in enumerate(params):
         n = p.name
@@ -283,10 +300,10 @@ def bind(name):
             ns["_T%d" % i] = p.ctype
             if n == "roiSize" and first and p.base == "PeliSize":
                 defaults.append("%s=None" % n)
-                exprs.append("(_roi(%s.shape) if %s is None else _T%d(*%s))" % (first, n, i, n))
+                exprs.append("(_roi(%s.shape) if %s is None else _st(_T%d, %s))" % (first, n, i, n))
             else:
                 args.append(n)
-                exprs.append("_T%d(*%s)" % (i, n))
+                exprs.append("_st(_T%d, %s)" % (i, n))
         else:
             args.append(n)
             exprs.append(n)

@@ -54,6 +54,7 @@ def test_pointwise(rng):
                                   pel.compare(a, 100, ">"))
 
 
+@pytest.mark.filterwarnings("ignore::DeprecationWarning")  # tornado, inside distributed
 def test_local_cluster_of_two_workers(rng):
     distributed = pytest.importorskip("distributed")
     img = random_image(rng, (300, 410), np.uint8, 3)
