@@ -26,4 +26,14 @@ from ._transform import fft, ifft, mul_pack, unpack
 
 globals().update(_ARITH)
 library_path = raw.LIB_PATH
+
+
+def version():
+    """The library's version record as a dict."""
+    import ctypes
+    rec = ctypes.cast(raw.peliGetLibVersion(), ctypes.POINTER(raw.PelLibraryVersion)).contents
+    text = lambda p: ctypes.string_at(p).decode() if p else ""
+    return {"major": rec.major, "minor": rec.minor, "majorBuild": rec.majorBuild,
+            "build": rec.build, "targetCpu": rec.targetCpu.decode(), "name": text(rec.Name),
+            "version": text(rec.Version), "buildDate": text(rec.BuildDate)}
 __all__ = sorted(n for n in globals() if not n.startswith("_"))

@@ -36,13 +36,14 @@ def test_neighbourhood_equals_whole(fn, reach, border, c, rng):
 
 
 @pytest.mark.parametrize("dtype, c", [(np.uint8, 1), (np.uint8, 3), (np.int16, 4), (np.float32, 1)])
-@pytest.mark.parametrize("interp, dsize, chunks", [
-    ("linear", (61, 29), (7, 13)), ("linear", (17, 90), (20, 5)), ("nearest", (61, 29), (9, 11))])
-def test_resize_tiles_equal_whole(dtype, c, interp, dsize, chunks, rng):
+@pytest.mark.parametrize("interp, border, dsize, chunks", [
+    ("linear", "replicate", (61, 29), (7, 13)), ("linear", "mirror", (17, 90), (20, 5)),
+    ("nearest", None, (61, 29), (9, 11))])
+def test_resize_tiles_equal_whole(dtype, c, interp, border, dsize, chunks, rng):
     img = random_image(rng, (41, 35), dtype, c)
     x = da.from_array(img, chunks=(8, 9) + ((c,) if c > 1 else ()))
-    got = pel.dask.resize(x, dsize, interp, chunks=chunks).compute(scheduler="threads")
-    np.testing.assert_array_equal(got, pel.resize(img, dsize, interp))
+    got = pel.dask.resize(x, dsize, interp, border, chunks=chunks).compute(scheduler="threads")
+    np.testing.assert_array_equal(got, pel.resize(img, dsize, interp, border))
 
 
 def test_pointwise(rng):
