@@ -137,14 +137,20 @@ class Abi:
     # -- types ---------------------------------------------------------------
     def _parse_types(self, text):
         # One pass in the order of the text: a struct may use a typedef above it.
-        rx = re.compile(r"typedef\s+(?:struct\s*\w*\s*\{([^}]*)\}|struct\s+(\w+)|((?:unsigned\s+)?\w+))\s*(\w+)\s*;")
+        rx = re.compile(r"typedef\s+(?:struct\s*\w*\s*\{([^}]*)\}|struct\s+(\w+)|enum\s*\w*\s*\{[^}]*\}|((?:unsigned\s+)?\w+))\s*(\w+)\s*;")
         for m in rx.finditer(text):
             body, tag, alias, name = m.groups()
             if body is not None:
-                self.types[name] = self._struct(name, body)
+                try:
+                    self.types[name] = self._struct(name, body)
+                except KeyError:  # a member of a type we do not know: opaque
+                    self.opaque.add(name)
+                    self.types[name] = ctypes.c_uint8
             elif tag is not None:
                 self.opaque.add(name)
                 self.types[name] = ctypes.c_uint8  # only ever behind a pointer
+            elif alias is None:  # typedef enum {...} Name
+                self.types[name] = ctypes.c_int
             else:
                 base = alias.split()[-1]
                 if base in self.types:
@@ -176,7 +182,11 @@ class Abi:
                     continue
                 m = re.match(r"(\w+)\s*(?:=\s*(.+))?$", item, re.S)
                 if m.group(2) is not None:
-                    value = int(eval(m.group(2).strip(), {}, dict(self.constants)))
+                    try:
+                        value = int(eval(m.group(2).strip(), {"__builtins__": {}},
+                                         dict(self.constants)))
+                    except Exception:  # an expression we cannot evaluate: skip it
+                        continue
                 else:
                     value += 1
                 self.constants[m.group(1)] = value
@@ -184,14 +194,20 @@ class Abi:
     # -- prototypes ----------------------------------------------------------
     def _param(self, text):
         text = " ".join(text.split())
-        m = re.match(r"(const\s+)?(\w+)\s*(\*?)\s*(const\s*)?(\w+)\s*(?:\[\s*(\d*)\s*\])?$", text)
+        m = re.match(r"(const\s+)?(\w+)\s*(\*?)\s*(const\s*)?(\w+)\s*((?:\[\s*\d*\s*\]\s*)*)$", text)
         if not m:
             raise ValueError("pel: cannot read the parameter %r" % text)
-        const, base, star, _, name, count = m.groups()
+        const, base, star, _, name, dims = m.groups()
         if base not in self.types:
             raise ValueError("pel: unknown type %r in %r" % (base, text))
-        is_array = count is not None
-        n = int(count) if count else 0
+        is_array = bool(dims)
+        n = 0
+        if is_array:
+            # T name[a][b] is a pointer to a*b elements; an empty [] counts 0.
+            sizes = [int(d) if d else 0 for d in re.findall(r"\[\s*(\d*)\s*\]", dims)]
+            n = 1
+            for d in sizes:
+                n *= d
         if star and is_array:  # T* const name[n]: n plane pointers (-1: any n)
             return Param(name, base, self.types[base], True, bool(const), None, n or -1, text)
         return Param(name, base, self.types[base], bool(star) or is_array, bool(const),
