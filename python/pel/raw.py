@@ -81,6 +81,8 @@ class _Converter:
         if isinstance(v, int) and not isinstance(v, bool):
             return v
         if p.count and p.const and isinstance(v, (list, tuple)):
+            if v and isinstance(v[0], (list, tuple)):  # T name[a][b] from rows
+                v = [x for row in v for x in row]
             if len(v) != p.count:
                 self.fail("wants %d values, got %d" % (p.count, len(v)), ValueError)
             arr = (p.ctype * p.count)()
