@@ -1,0 +1,130 @@
+"""Speed of the Python layer (not a test: numbers only).
+
+    PEL_LIB=build/release/src /usr/bin/python3 python/bench.py [--dask]
+
+1. Per-call overhead on 64 x 64: the Pythonic call against the same export
+   called through ctypes with every argument prepared beforehand (which is
+   the C time plus ctypes' own dispatch).
+2. 1920 x 1080: the Pythonic call against that prepared C call, and against
+   OpenCV's Python binding for the same operation.
+3. --dask: a 5 x 5 filter (25 pel adds on overlapping chunks) on an
+   8192 x 8192 float32 image, on a LocalCluster of one and of two workers.
+"""
+import os
+import sys
+import timeit
+
+import numpy as np
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import cv2  # noqa: E402
+import pel  # noqa: E402
+from pel import _core, raw  # noqa: E402
+
+
+def best(f, seconds=0.3):
+    n, t = 1, 0.0
+    while t < seconds / 5:
+        n *= 2
+        t = timeit.timeit(f, number=n)
+    return min(timeit.repeat(f, number=n, repeat=5)) / n
+
+
+def prepared(name, *arrays_and_args):
+    """The export called with every argument converted beforehand."""
+    f = raw.function(name).cfunc
+    args = [a.ctypes.data if isinstance(a, np.ndarray) else a for a in arrays_and_args]
+    keep = arrays_and_args  # the arrays must outlive the addresses taken from them
+    return lambda: f(*args) if keep else None
+
+
+def cases(h, w):
+    rng = np.random.default_rng(1)
+    a8 = rng.integers(0, 256, (h, w), np.uint8)
+    b8 = rng.integers(0, 256, (h, w), np.uint8)
+    c8 = rng.integers(0, 256, (h, w, 3), np.uint8)
+    f32 = rng.random((h, w), np.float32)
+    o8, o83, of = np.empty_like(a8), np.empty_like(c8), np.empty_like(f32)
+    S = _core.Size(w, h)
+    sw, sw3, sf = a8.strides[0], c8.strides[0], f32.strides[0]
+    small = (w // 2, h // 2)
+    r = pel.resizer(np.uint8, (w, h), small)
+    os8 = np.empty((h // 2, w // 2, 3), np.uint8)
+    buf = r.buffer(small, 3)
+    return [
+        ("copy 8u C1", lambda: pel.copy(a8, out=o8),
+         prepared("peliCopy_8u_C1R", a8, sw, o8, sw, S), lambda: np.copyto(o8, a8)),
+        ("add 8u C1", lambda: pel.add(a8, b8, out=o8),
+         prepared("peliAdd_8u_C1RSfs", a8, sw, b8, sw, o8, sw, S, 0), lambda: cv2.add(a8, b8, dst=o8)),
+        ("add 32f C1", lambda: pel.add(f32, f32, out=of),
+         prepared("peliAdd_32f_C1R", f32, sf, f32, sf, of, sf, S), lambda: cv2.add(f32, f32, dst=of)),
+        ("and 8u C3", lambda: pel.bitwise_and(c8, c8, out=o83),
+         prepared("peliAnd_8u_C3R", c8, sw3, c8, sw3, o83, sw3, S), lambda: cv2.bitwise_and(c8, c8, dst=o83)),
+        ("threshold> 8u C1", lambda: pel.threshold(a8, 100, ">", out=o8),
+         prepared("peliThreshold_GT_8u_C1R", a8, sw, o8, sw, S, 100),
+         lambda: cv2.threshold(a8, 100, 255, cv2.THRESH_TRUNC, dst=o8)),
+        ("convert 8u->32f", lambda: pel.convert(a8, np.float32, out=of),
+         prepared("peliConvert_8u32f_C1R", a8, sw, of, sf, S), lambda: a8.astype(np.float32)),
+        ("sum 8u C1", lambda: pel.sum(a8),
+         prepared("peliSum_8u_C1R", a8, sw, S, np.zeros(1)), lambda: cv2.sumElems(a8)),
+        ("min_max 32f", lambda: pel.min_max(f32),
+         prepared("peliMinMax_32f_C1R", f32, sf, S, np.zeros(1, np.float32), np.zeros(1, np.float32)),
+         lambda: cv2.minMaxLoc(f32)),
+        ("resize 8u C3 1/2", lambda: pel.resize(c8, small, out=os8),
+         prepared("peliResizeLinear_8u_C3R", c8, sw3, os8, os8.strides[0], _core.Point(0, 0),
+                  _core.Size(*small), 1, None, r.spec, buf),
+         lambda: cv2.resize(c8, small, dst=os8, interpolation=cv2.INTER_LINEAR)),
+    ]
+
+
+def calls():
+    print("%-18s %10s %10s %9s | %10s %10s %8s %8s" % (
+        "operation", "64x64 py", "64x64 C", "overhead", "1080p py", "1080p C", "C/py", "cv2/py"))
+    small, large = cases(64, 64), cases(1080, 1920)
+    for (name, py, c, _), (_, py2, c2, cv) in zip(small, large):
+        # Alternate the contenders so that a burst of load hits all of them.
+        tp = tc = tp2 = tc2 = tcv = 1e9
+        for _ in range(3):
+            tp, tc = min(tp, best(py, 0.1)), min(tc, best(c, 0.1))
+            tp2, tc2, tcv = min(tp2, best(py2, 0.1)), min(tc2, best(c2, 0.1)), min(tcv, best(cv, 0.1))
+        print("%-18s %8.2fus %8.2fus %7.2fus | %8.1fus %8.1fus %8.3f %8.2f" % (
+            name, tp * 1e6, tc * 1e6, (tp - tc) * 1e6, tp2 * 1e6, tc2 * 1e6, tc2 / tp2, tcv / tp2))
+
+
+def box5(padded):
+    h, w = padded.shape[0] - 4, padded.shape[1] - 4
+    acc = np.zeros((h, w), np.float32)
+    for dy in range(5):
+        for dx in range(5):
+            pel.add(acc, padded[dy:dy + h, dx:dx + w], out=acc)
+    return acc
+
+
+def scale_out():
+    import time
+    import dask.array as da
+    import distributed
+    import pel.dask
+    x = da.random.default_rng(1).random((8192, 8192), dtype=np.float32, chunks=(1024, 1024)) \
+        if hasattr(da.random, "default_rng") else \
+        da.random.RandomState(1).random_sample((8192, 8192), chunks=(1024, 1024)).astype(np.float32)
+    times = {}
+    for n in (1, 2):
+        with distributed.LocalCluster(n_workers=n, threads_per_worker=1, processes=True,
+                                      dashboard_address=None) as cl, distributed.Client(cl) as cli:
+            y = pel.dask.neighbourhood(x, box5, 2).sum()
+            y.compute()  # warm the workers
+            t = []
+            for _ in range(3):
+                t0 = time.perf_counter()
+                y.compute()
+                t.append(time.perf_counter() - t0)
+            times[n] = sorted(t)[1]
+            print("%d worker(s): %.2f s (median of 3)" % (n, times[n]))
+    print("speed-up 2 workers / 1: %.2fx" % (times[1] / times[2]))
+
+
+if __name__ == "__main__":
+    calls()
+    if "--dask" in sys.argv:
+        scale_out()
