@@ -252,7 +252,10 @@ void AddLutRows(std::vector<Row>& rows, const char* name, Fn fn) {
 template <class S, class D, int L, class Fn>
 void AddPalette(std::vector<Row>& rows, const char* name, Fn fn) {
   const int W = WorkedOf(L), full = 8 * int(sizeof(S));
-  for (int bits : {full, 3, 0, full + 1}) {
+  // The one-channel rows take the widest mask; several 65,536-entry tables
+  // would only slow the runner down.
+  const int wide = L == 1 ? full : std::min(full, 11);
+  for (int bits : {wide, 3, 0, full + 1}) {
     const bool bad = bits < 1 || bits > full;
     std::vector<Arg> args = Images<S, D>(L, false, FillBits());
     for (int c = 0; c < W; ++c) args.push_back(Consts<D>(bad ? 1 : 1 << bits));
