@@ -229,10 +229,12 @@ void AddLut(std::vector<Row>& rows, const char* name, Fn fn, int set, int badCou
     r.order.push_back(Check::Param);
     r.expect = pelStatusLutLevelsError;
   } else if (sizeof(T) == 2) {
-    // Enough pixels for the table of the widest levels.
+    // Enough values for a table of the widest levels' range, and for tables
+    // of the whole type.
     r.shapes = AwkwardLayouts(ChannelsOf(L));
     for (const Layout& l : FencedLayouts(ChannelsOf(L))) r.shapes.push_back(l);
-    r.shapes.push_back(Layout{260, 130, ChannelsOf(L)});
+    if (L == 1) r.shapes.push_back(Layout{260, 130, 1});
+    r.shapes.push_back(Layout{300, 220 / W + 1, ChannelsOf(L)});
   }
   rows.push_back(std::move(r));
 }

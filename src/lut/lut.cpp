@@ -40,23 +40,39 @@ void ApplySearch(const Curve<ValueOf<T>>* curves, const T* src, int srcStep, T* 
   });
 }
 
-// 16-bit images: a table of each channel's range of levels when the image has
-// enough pixels to pay for filling it, else a search per value. A failed
-// allocation falls back to the search, which gives the same results.
+// Tables over the whole 16-bit range, looked up without a range check: base
+// points at the entry of 0, so a signed value indexes it directly.
+template <class T, int C, int W>
+void ApplyFullTables(const T* const* base, const T* src, int srcStep, T* dst, int dstStep, PeliSize roi) {
+  ForEachRun(src, srcStep, dst, dstStep, roi, C, [&](const T* s, T* d, size_t pixels) {
+    scalar::MapPixels<C, W>(s, d, pixels, [&](int c, T x) { return base[c][x]; });
+  });
+}
+
+// 16-bit images. Below this many values a table covers only the levels'
+// range (values outside are copied after a range check) and is built only
+// when the image has at least half as many values as the table entries, else
+// each value is searched among the levels. From it on, each channel gets a
+// 65,536-entry table (copies outside the levels), which its fill amortises.
+// A failed allocation falls back to the search, which gives the same results.
+inline constexpr uint64_t kFullTableValues = uint64_t{1} << 16;
+
 template <class T, Kind K, int C, int W>
 void Apply16(const Curve<Pel32s>* curves, const T* src, int srcStep, T* dst, int dstStep, PeliSize roi) {
+  constexpr int kMin = std::numeric_limits<T>::min(), kMax = std::numeric_limits<T>::max();
+  const uint64_t values = uint64_t(roi.width) * uint64_t(roi.height) * W;
+  const bool full = values >= kFullTableValues;
   RangeTable<T> tables[4];
   int64_t total = 0;
   for (int c = 0; c < W; ++c) {
-    const int64_t lo = std::max<int64_t>(curves[c].levels[0], std::numeric_limits<T>::min());
-    const int64_t end = std::min<int64_t>(curves[c].levels[curves[c].n - 1], int64_t{std::numeric_limits<T>::max()} + 1);
+    const int64_t lo = full ? kMin : std::max<int64_t>(curves[c].levels[0], kMin);
+    const int64_t end = full ? int64_t{kMax} + 1 : std::min<int64_t>(curves[c].levels[curves[c].n - 1], int64_t{kMax} + 1);
     tables[c].lo = static_cast<int>(lo);
     tables[c].count = end > lo ? static_cast<int>(end - lo) : 0;
     total += tables[c].count;
   }
-  const uint64_t values = uint64_t(roi.width) * uint64_t(roi.height) * W;
   T* memory = nullptr;
-  if (total > 0 && uint64_t(total) <= 2 * values) {
+  if (total > 0 && (full || uint64_t(total) <= 2 * values)) {
     memory = static_cast<T*>(pelMalloc(static_cast<int32_t>(total * int64_t{sizeof(T)})));
   }
   if (memory == nullptr && total > 0) {
@@ -64,12 +80,18 @@ void Apply16(const Curve<Pel32s>* curves, const T* src, int srcStep, T* dst, int
     return;
   }
   T* next = memory;
+  const T* base[4] = {};
   for (int c = 0; c < W; ++c) {
     scalar::FillTable<T, K>(curves[c], tables[c].lo, tables[c].count, next);
     tables[c].entries = next;
+    base[c] = next - kMin;
     next += tables[c].count;
   }
-  ApplyTables<T, C, W>(tables, src, srcStep, dst, dstStep, roi);
+  if (full) {
+    ApplyFullTables<T, C, W>(base, src, srcStep, dst, dstStep, roi);
+  } else {
+    ApplyTables<T, C, W>(tables, src, srcStep, dst, dstStep, roi);
+  }
   pelFree(memory);
 }
 
