@@ -12,6 +12,7 @@
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
 #include "hwy/highway.h"
+#include "core/pixels-inl.h"
 #include "lut/row_lut_kernels.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -25,6 +26,9 @@ void LookupRow8Target(const Lut8Job& j, const uint8_t* src, uint8_t* dst, size_t
 }
 
 #else
+
+using pel::HWY_NAMESPACE::LoadPixels;
+using pel::HWY_NAMESPACE::StorePixels;
 
 template <class D, class V = hn::Vec<D>>
 HWY_INLINE V Lookup(D d, const V* pieces, V v) {
@@ -40,28 +44,6 @@ HWY_INLINE V Lookup(D d, const V* pieces, V v) {
     index = hn::Sub(index, k16);
   }
   return hn::BitCast(d, hn::IfNegativeThenElse(hn::BitCast(di, v), hn::BitCast(di, high), hn::BitCast(di, low)));
-}
-
-template <int C, class D, class V = hn::Vec<D>>
-HWY_INLINE void LoadPixels(D d, const uint8_t* p, V* v) {
-  if constexpr (C == 1) {
-    v[0] = hn::LoadU(d, p);
-  } else if constexpr (C == 3) {
-    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-  } else {
-    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-  }
-}
-
-template <int C, class D, class V = hn::Vec<D>>
-HWY_INLINE void StorePixels(D d, const V* v, uint8_t* p) {
-  if constexpr (C == 1) {
-    hn::StoreU(v[0], d, p);
-  } else if constexpr (C == 3) {
-    hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
-  } else {
-    hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
-  }
 }
 
 // W channels of C looked up; an AC4 pixel's fourth byte is written back as
