@@ -64,16 +64,16 @@ int Interval(const Curve<V>& c, X x) {
   return lo;
 }
 
-// A result in double to the element type: to nearest (the walkers set the
-// rounding control), ties to even, saturated. NaN cannot arise from integer
-// levels; it would give the lowest value rather than undefined behaviour.
+// A result in double to the element type: to nearest with ties to even,
+// saturated. NaN cannot arise from integer levels; it would give the lowest
+// value rather than undefined behaviour.
 template <class T>
 T Narrow(double r) {
   if constexpr (std::is_floating_point_v<T>) {
     return static_cast<T>(r);
   } else {
     constexpr double lo = std::numeric_limits<T>::min(), hi = std::numeric_limits<T>::max();
-    r = std::nearbyint(r);
+    r = RoundHalfEven(r);
     if (r >= hi) return std::numeric_limits<T>::max();
     return r > lo ? static_cast<T>(r) : std::numeric_limits<T>::min();
   }
