@@ -73,20 +73,21 @@ struct LevelSet {
 };
 
 // 0: inside the type's range, 1: past both ends, 2: a narrow range (the
-// 16-bit images then take the table path on most shapes).
+// 16-bit images then take the table path on most shapes), 3: wholly outside
+// the type's range (every value copied).
 template <class T>
 LevelSet LevelsOf(int set) {
   if constexpr (std::is_same_v<T, Pel8u>) {
-    const LevelSet s[] = {{9, 3, 250}, {5, -20, 300}, {2, 100, 101}};
+    const LevelSet s[] = {{9, 3, 250}, {5, -20, 300}, {2, 100, 101}, {3, 256, 400}};
     return s[set];
   } else if constexpr (std::is_same_v<T, Pel16u>) {
-    const LevelSet s[] = {{12, 1000, 60000}, {20, -5, 70000}, {40, 30000, 30300}};
+    const LevelSet s[] = {{12, 1000, 60000}, {20, -5, 70000}, {40, 30000, 30300}, {3, -900, -1}};
     return s[set];
   } else if constexpr (std::is_same_v<T, Pel16s>) {
-    const LevelSet s[] = {{12, -30000, 30000}, {20, -40000, 40000}, {40, -150, 150}};
+    const LevelSet s[] = {{12, -30000, 30000}, {20, -40000, 40000}, {40, -150, 150}, {3, 32768, 40000}};
     return s[set];
   } else {
-    const LevelSet s[] = {{12, -500, 500}, {20, -2000, 2000}, {3, 0.25, 0.75}};
+    const LevelSet s[] = {{12, -500, 500}, {20, -2000, 2000}, {3, 0.25, 0.75}, {3, 1e30, 2e30}};
     return s[set];
   }
 }
@@ -242,7 +243,7 @@ void AddLut(std::vector<Row>& rows, const char* name, Fn fn, int set, int badCou
 template <class T, int L, int K, bool kInPlace, class Fn>
 void AddLutRows(std::vector<Row>& rows, const char* name, Fn fn) {
   if (L == 1 && !kInPlace) {
-    for (int set = 0; set < 3; ++set) AddLut<T, L, K, kInPlace>(rows, name, fn, set);
+    for (int set = 0; set < 4; ++set) AddLut<T, L, K, kInPlace>(rows, name, fn, set);
   } else {
     AddLut<T, L, K, kInPlace>(rows, name, fn, L == 1 ? 0 : -1);
   }

@@ -84,7 +84,7 @@ void Apply16(const Curve<Pel32s>* curves, const T* src, int srcStep, T* dst, int
   for (int c = 0; c < W; ++c) {
     scalar::FillTable<T, K>(curves[c], tables[c].lo, tables[c].count, next);
     tables[c].entries = next;
-    base[c] = next - kMin;
+    if (full) base[c] = next - kMin;
     next += tables[c].count;
   }
   if (full) {
