@@ -1,12 +1,14 @@
 // Vector 8-bit table lookups. A 256-entry table does not fit a byte shuffle,
 // which looks up 16 entries, so each half of the table is looked up as eight
-// shuffles of its 16-byte pieces: the index drops by 16 before each piece,
+// shuffles of its 16-byte pieces: the index drops by 16 before each piece;
 // the shuffle gives 0 for lanes whose index went negative (or is still 128
-// or more), and the pieces are stored as XORs of neighbours, so that the
-// lookups of a half XOR to the one piece each lane belongs to. The sign of
-// the byte picks the half. Multi-channel rows are split into one vector per
-// channel first. Rows shorter than a vector, and the tail of each row, run
-// the scalar loop: an in-place row cannot end with an overlapping vector.
+// or more) and entry index & 15 for the others (x86 byte shuffles, the only
+// vector targets built); the pieces are stored as XORs of neighbours, so
+// that the lookups of a half XOR to the one piece each lane belongs to. The
+// sign of the byte picks the half. Multi-channel rows are split into one
+// vector per channel first. Rows shorter than a vector, and the tail of each
+// row, run the scalar loop: an in-place row cannot end with an overlapping
+// vector.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "lut/row_lut_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
