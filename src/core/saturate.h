@@ -37,6 +37,18 @@ constexpr int64_t ScaleHalfEven(int64_t v, int s) {
   return v * (int64_t{1} << left);
 }
 
+// v rounded to the nearest integer, ties to even, whatever the rounding
+// control: floor and the difference r - floor(r) are exact in every mode.
+// (std::nearbyint follows the x87 control word on 32-bit x86, which a
+// caller's fesetround changes and an SSE rounding scope does not restore.)
+inline double RoundHalfEven(double v) {
+  const double f = std::floor(v);
+  const double d = v - f;
+  if (d > 0.5) return f + 1.0;
+  if (d < 0.5) return f;
+  return std::fmod(f, 2.0) == 0.0 ? f : f + 1.0;
+}
+
 // Rounding of a real value to an integer by a PelRoundMode: 0 toward zero,
 // 1 to nearest with ties to even, anything else halves away from zero.
 inline double RoundByMode(double v, int mode) {
