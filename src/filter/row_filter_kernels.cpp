@@ -1,0 +1,363 @@
+// Vector row kernels of the filters. Every lane of an output row is computed
+// on its own, in the scalar reference's order of operations (sums start at
+// zero and add taps row by row, left to right; no fused multiply-add), so
+// full-width vectors give the reference's bits on every target. Ends of rows
+// shorter than a vector run the scalar reference.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "filter/row_filter_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include "filter/filter_scalar.h"
+#include "filter/median_network.h"
+#include "filter/row_filter_kernels.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace pel::filter::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
+
+void CorrelateRowTarget(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { scalar::CorrelateRow(job, rows, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                      int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::ExtremeRow(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), 0, lanes);
+  });
+}
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
+                     int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), 0, lanes);
+  });
+}
+void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+                  int64_t lanes) {
+  VisitLane(lane, [&](auto t) { scalar::BoxRow(C, kw, kh, rows, colSums, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+
+#else
+
+template <class T>
+const T* At(const uint8_t* row, int64_t lane) {
+  return reinterpret_cast<const T*>(row) + lane;
+}
+
+// Elements of T widened to the 32-bit lanes of d (float lanes: converted).
+template <class T, class D>
+HWY_INLINE hn::Vec<D> LoadWide(D d, const T* p) {
+  using L = hn::TFromD<D>;
+  if constexpr (sizeof(T) == sizeof(L)) {
+    return hn::LoadU(d, reinterpret_cast<const L*>(p));
+  } else if constexpr (std::is_floating_point_v<L>) {
+    const hn::RebindToSigned<D> di;
+    return hn::ConvertTo(d, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, D>(), p)));
+  } else {
+    return hn::PromoteTo(d, hn::LoadU(hn::Rebind<T, D>(), p));
+  }
+}
+
+// Float to T by the rounding mode, saturated, as scalar::RoundSaturate.
+template <class T, class DF>
+HWY_INLINE void StoreRounded(DF df, hn::Vec<DF> v, int round, T* dst) {
+  if (round == 0) v = hn::Trunc(v);
+  else if (round == 1) v = hn::Round(v);
+  else v = hn::Trunc(hn::Add(v, hn::CopySign(hn::Set(df, 0.5f), v)));
+  v = hn::Min(hn::Max(v, hn::Set(df, static_cast<float>(std::numeric_limits<T>::min()))),
+              hn::Set(df, static_cast<float>(std::numeric_limits<T>::max())));
+  const hn::RebindToSigned<DF> di;
+  hn::StoreU(hn::DemoteTo(hn::Rebind<T, DF>(), hn::ConvertTo(di, v)), hn::Rebind<T, DF>(), dst);
+}
+
+template <class T>
+void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  const int kn = job.kw * job.kh;
+  int64_t l = 0;
+  if constexpr (std::is_same_v<T, double>) {
+    const hn::ScalableTag<double> d;
+    const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+    for (; l + N <= lanes; l += N) {
+      auto acc = hn::Zero(d);
+      const double* k = job.revD + kn;
+      for (int i = 0; i < job.kh; ++i)
+        for (int j = 0; j < job.kw; ++j)
+          acc = hn::Add(acc, hn::Mul(hn::Set(d, *--k), hn::LoadU(d, At<double>(rows[i], l + j * job.C))));
+      hn::StoreU(hn::Add(acc, hn::Set(d, job.offsetD)), d, dst + l);
+    }
+  } else {
+    const hn::ScalableTag<float> df;
+    const hn::ScalableTag<int32_t> di;
+    const int64_t N = static_cast<int64_t>(hn::Lanes(df));
+    if (job.intKernel) {
+      if constexpr (!std::is_floating_point_v<T>) {
+        const int n = job.shift;
+        const auto addend = hn::Set(di, n > 0 ? (1 << (n - 1)) : 0);
+        const auto one = hn::Set(di, 1);
+        for (; l + N <= lanes; l += N) {
+          auto acc = hn::Zero(di);
+          const int16_t* k = job.revI + kn;
+          for (int i = 0; i < job.kh; ++i)
+            for (int j = 0; j < job.kw; ++j)
+              acc = hn::Add(acc, hn::Mul(hn::Set(di, *--k), LoadWide(di, At<T>(rows[i], l + j * job.C))));
+          acc = hn::Add(acc, hn::Set(di, job.offsetI));
+          if (job.divMode == 2) {
+            StoreRounded(df, hn::Mul(hn::ConvertTo(df, acc), hn::Set(df, job.scale)), job.round, dst + l);
+            continue;
+          }
+          if (job.divMode == 1) {
+            const auto neg = hn::Lt(acc, hn::Zero(di));
+            hn::Vec<decltype(di)> add;
+            if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
+            else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(acc, n), one));
+            else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
+            acc = hn::ShiftRightSame(hn::Add(acc, add), n);
+          }
+          hn::StoreU(hn::DemoteTo(hn::Rebind<T, decltype(di)>(), acc), hn::Rebind<T, decltype(di)>(), dst + l);
+        }
+      }
+    } else {
+      for (; l + N <= lanes; l += N) {
+        auto acc = hn::Zero(df);
+        const float* k = job.revF + kn;
+        for (int i = 0; i < job.kh; ++i)
+          for (int j = 0; j < job.kw; ++j)
+            acc = hn::Add(acc, hn::Mul(hn::Set(df, *--k), LoadWide(df, At<T>(rows[i], l + j * job.C))));
+        acc = hn::Add(acc, hn::Set(df, job.offsetF));
+        if constexpr (std::is_same_v<T, float>) hn::StoreU(acc, df, dst + l);
+        else StoreRounded(df, acc, job.round, dst + l);
+      }
+    }
+  }
+  scalar::CorrelateRow(job, rows, dst, l, lanes);
+}
+
+void CorrelateRowTarget(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { Correlate(job, rows, static_cast<decltype(t)*>(dst), lanes); });
+}
+
+template <class T>
+void Extreme(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t wide = lanes + int64_t{kw - 1} * C;
+  // max/min with the operand order of scalar::MaxOf/MinOf.
+  auto op = [max](auto a, auto b) { return max ? hn::Max(a, b) : hn::Min(a, b); };
+  int64_t l = 0;
+  for (; l + N <= wide; l += N) {
+    auto v = hn::LoadU(d, At<T>(rows[0], l));
+    for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], l)));
+    hn::StoreU(v, d, tmp + l);
+  }
+  for (; l < wide; ++l) {
+    T v = scalar::Load<T>(rows[0], l);
+    for (int i = 1; i < kh; ++i) v = max ? scalar::MaxOf(v, scalar::Load<T>(rows[i], l)) : scalar::MinOf(v, scalar::Load<T>(rows[i], l));
+    tmp[l] = v;
+  }
+  for (l = 0; l + N <= lanes; l += N) {
+    auto v = hn::LoadU(d, tmp + l);
+    for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + l + j * C));
+    hn::StoreU(v, d, dst + l);
+  }
+  for (; l < lanes; ++l) {
+    T v = tmp[l];
+    for (int j = 1; j < kw; ++j) v = max ? scalar::MaxOf(v, tmp[l + j * C]) : scalar::MinOf(v, tmp[l + j * C]);
+    dst[l] = v;
+  }
+}
+
+void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                      int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    Extreme(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+  });
+}
+
+// Small medians: the selection network over the kw x kh taps of each lane.
+template <class T>
+int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  MedianNetwork net;
+  BuildMedianNetwork(kw * kh, net);
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  hn::Vec<decltype(d)> v[MedianNetwork::kMaxWires];
+  int64_t l = 0;
+  for (; l + N <= lanes; l += N) {
+    for (int i = 0; i < kh; ++i)
+      for (int j = 0; j < kw; ++j) v[i * kw + j] = hn::LoadU(d, At<T>(rows[i], l + j * C));
+    for (int c = 0; c < net.count; ++c) {
+      auto& a = v[net.a[c]];
+      auto& b = v[net.b[c]];
+      const auto lo = hn::Min(a, b);
+      if (net.use[c] & 2) b = hn::Max(a, b);
+      a = lo;
+    }
+    hn::StoreU(v[(kw * kh - 1) / 2], d, dst + l);
+  }
+  return l;
+}
+
+// Larger 8-bit medians: the result is built bit by bit from the top; a bit
+// stays set when at most rank taps lie below the value so far with it set.
+// Counts fit 8-bit lanes for masks of up to 255 taps.
+int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint8_t> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const auto rank = hn::Set(d, static_cast<uint8_t>((kw * kh - 1) / 2));
+  int64_t l = 0;
+  for (; l + N <= lanes; l += N) {
+    auto result = hn::Zero(d);
+    for (int bit = 7; bit >= 0; --bit) {
+      const auto t = hn::Or(result, hn::Set(d, static_cast<uint8_t>(1u << bit)));
+      const auto below = hn::Sub(t, hn::Set(d, 1));  // x < t  <=>  min(x, t - 1) == x
+      auto count = hn::Zero(d);
+      for (int i = 0; i < kh; ++i)
+        for (int j = 0; j < kw; ++j) {
+          const auto x = hn::LoadU(d, At<uint8_t>(rows[i], l + j * C));
+          count = hn::Sub(count, hn::VecFromMask(d, hn::Eq(hn::Min(x, below), x)));
+        }
+      result = hn::IfThenElse(hn::Eq(hn::Min(count, rank), count), t, result);
+    }
+    hn::StoreU(result, d, dst + l);
+  }
+  return l;
+}
+
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
+                     int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    int64_t done = 0;
+    if constexpr (!std::is_same_v<T, double>) {
+      if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+      else if constexpr (std::is_same_v<T, uint8_t>) {
+        if (kw * kh <= 255) done = MedianByBits(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+      }
+    }
+    scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), done, lanes);
+  });
+}
+
+// 8-bit box with at most 257 taps: sums fit 16 bits; the rounded mean
+// floor((2s + N) / 2N) is exact in single precision from (2s + N + 1/2)
+// times the reciprocal, the error staying far below the distance 1/4N of
+// every such quotient from an integer.
+int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint16_t> d16;
+  const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
+  const int64_t wide = lanes + int64_t{kw - 1} * C;
+  int64_t l = 0;
+  for (; l + N16 <= wide; l += N16) {
+    auto s = hn::Zero(d16);
+    for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
+    hn::StoreU(s, d16, col + l);
+  }
+  for (; l < wide; ++l) {
+    unsigned s = 0;
+    for (int i = 0; i < kh; ++i) s += rows[i][l];
+    col[l] = static_cast<uint16_t>(s);
+  }
+  const hn::ScalableTag<int32_t> di;
+  const hn::ScalableTag<float> df;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(di));
+  const int n = kw * kh;
+  const auto bias = hn::Set(di, n);
+  const auto half = hn::Set(df, 0.5f);
+  const auto recip = hn::Set(df, 1.0f / static_cast<float>(2 * n));
+  for (l = 0; l + N <= lanes; l += N) {
+    auto s = hn::Zero(di);
+    for (int j = 0; j < kw; ++j) s = hn::Add(s, LoadWide(di, col + l + j * C));
+    const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
+    hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(di)>(), hn::ConvertTo(di, q)),
+               hn::Rebind<uint8_t, decltype(di)>(), dst + l);
+  }
+  return l;
+}
+
+// 32f box: f64 column sums, then the kw sums left to right, as the reference.
+int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, float* dst, int64_t lanes) {
+  const hn::ScalableTag<double> d;
+  const hn::Rebind<float, decltype(d)> dh;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t wide = lanes + int64_t{kw - 1} * C;
+  int64_t l = 0;
+  for (; l + N <= wide; l += N) {
+    auto s = hn::Zero(d);
+    for (int i = 0; i < kh; ++i) s = hn::Add(s, hn::PromoteTo(d, hn::LoadU(dh, At<float>(rows[i], l))));
+    hn::StoreU(s, d, col + l);
+  }
+  for (; l < wide; ++l) {
+    double s = 0;
+    for (int i = 0; i < kh; ++i) s = s + static_cast<double>(scalar::Load<float>(rows[i], l));
+    col[l] = s;
+  }
+  const auto n = hn::Set(d, static_cast<double>(int64_t{kw} * kh));
+  for (l = 0; l + N <= lanes; l += N) {
+    auto s = hn::Zero(d);
+    for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d, col + l + j * C));
+    hn::StoreU(hn::DemoteTo(dh, hn::Div(s, n)), dh, dst + l);
+  }
+  return l;
+}
+
+void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+                  int64_t lanes) {
+  if (lane == Lane::U8 && int64_t{kw} * kh <= 257) {
+    auto* d = static_cast<uint8_t*>(dst);
+    auto* col = static_cast<uint16_t*>(colSums);
+    const int64_t done = Box8(C, kw, kh, rows, col, d, lanes);
+    const int n = kw * kh;
+    for (int64_t l = done; l < lanes; ++l) {
+      int64_t s = 0;
+      for (int j = 0; j < kw; ++j) s += col[l + j * C];
+      d[l] = scalar::RoundedMean<uint8_t>(s, n);
+    }
+    return;
+  }
+  if (lane == Lane::F32) {
+    auto* d = static_cast<float*>(dst);
+    auto* col = static_cast<double*>(colSums);
+    const int64_t done = Box32f(C, kw, kh, rows, col, d, lanes);
+    for (int64_t l = done; l < lanes; ++l) {
+      double s = 0;
+      for (int j = 0; j < kw; ++j) s = s + col[l + j * C];
+      d[l] = static_cast<float>(s / static_cast<double>(int64_t{kw} * kh));
+    }
+    return;
+  }
+  VisitLane(lane, [&](auto t) { scalar::BoxRow(C, kw, kh, rows, colSums, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+
+#endif
+
+}  // namespace pel::filter::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace pel::filter {
+HWY_EXPORT(CorrelateRowTarget);
+HWY_EXPORT(ExtremeRowTarget);
+HWY_EXPORT(MedianRowTarget);
+HWY_EXPORT(BoxRowTarget);
+
+void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(CorrelateRowTarget)(job, rows, dst, lanes);
+}
+void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(ExtremeRowTarget)(lane, max, C, kw, kh, rows, tmp, dst, lanes);
+}
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
+               int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, scratch, dst, lanes);
+}
+void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+            int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
+}
+}  // namespace pel::filter
+#endif
