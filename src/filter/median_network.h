@@ -13,14 +13,14 @@ struct MedianNetwork {
   static constexpr int kMaxWires = 25;
   static constexpr int kMaxOps = 256;
   int count = 0;
-  uint8_t a[kMaxOps], b[kMaxOps];  // a receives the minimum, b the maximum
-  uint8_t use[kMaxOps];            // 3 both outputs, 1 only the minimum, 2 only the maximum
+  uint8_t a[kMaxOps]{}, b[kMaxOps]{};  // a receives the minimum, b the maximum
+  uint8_t use[kMaxOps]{};              // 3 both outputs, 1 only the minimum, 2 only the maximum
 };
 
-inline void BuildMedianNetwork(int n, MedianNetwork& net) {
+constexpr void BuildMedianNetwork(int n, MedianNetwork& net) {
   int n2 = 1;
   while (n2 < n) n2 *= 2;
-  uint8_t ca[1024], cb[1024];
+  uint8_t ca[1024]{}, cb[1024]{};
   int m = 0;
   for (int p = 1; p < n2; p *= 2)
     for (int k = p; k >= 1; k /= 2)
@@ -31,9 +31,9 @@ inline void BuildMedianNetwork(int n, MedianNetwork& net) {
             cb[m] = static_cast<uint8_t>(i + j + k);
             ++m;
           }
-  bool needed[32] = {};
+  bool needed[32]{};
   needed[(n - 1) / 2] = true;
-  uint8_t ra[MedianNetwork::kMaxOps], rb[MedianNetwork::kMaxOps], ru[MedianNetwork::kMaxOps];
+  uint8_t ra[MedianNetwork::kMaxOps]{}, rb[MedianNetwork::kMaxOps]{}, ru[MedianNetwork::kMaxOps]{};
   int r = 0;
   for (int c = m - 1; c >= 0; --c) {
     const bool lo = needed[ca[c]], hi = needed[cb[c]];
@@ -50,6 +50,14 @@ inline void BuildMedianNetwork(int n, MedianNetwork& net) {
     net.b[c] = rb[r - 1 - c];
     net.use[c] = ru[r - 1 - c];
   }
+}
+
+// The network of n wires as a constant, for kernels that unroll it.
+template <int kN>
+constexpr MedianNetwork MedianNetworkOf() {
+  MedianNetwork net;
+  BuildMedianNetwork(kN, net);
+  return net;
 }
 
 }  // namespace pel::filter

@@ -23,11 +23,12 @@ bool TypeOf4(int dataType) {
 
 // What every rank filter needs from the buffer besides its window: a row of
 // the full mask's reach (extremes' vertical pass, box column sums of eight
-// bytes a lane), an output row for AC4 and the median's selection scratch.
+// bytes a lane, or the median's three sorted columns), an output row for AC4
+// and the median's selection scratch.
 int64_t RankBufferBytes(int64_t W, PeliSize mask, int64_t elemBytes, int channels) {
   const MaskGeometry g = GeometryOf(mask.width, mask.height);
   const int64_t reach = (W + g.kw - 1) * channels;
-  return WindowBufferBytes(W, g, static_cast<int>(elemBytes * channels)) + static_cast<int64_t>(RoundUp64(reach * 8)) +
+  return WindowBufferBytes(W, g, static_cast<int>(elemBytes * channels)) + static_cast<int64_t>(RoundUp64(reach * 16)) +
          static_cast<int64_t>(RoundUp64(W * channels * elemBytes)) +
          static_cast<int64_t>(RoundUp64(g.kw * g.kh * elemBytes)) + 64;
 }
@@ -50,7 +51,7 @@ struct Scratch {
 Scratch ScratchAfter(uint8_t* end, int64_t W, const MaskGeometry& g, int64_t elemBytes, int channels) {
   Scratch s;
   s.reach = end;
-  s.outRow = s.reach + RoundUp64((W + g.kw - 1) * channels * 8);
+  s.outRow = s.reach + RoundUp64((W + g.kw - 1) * channels * 16);
   s.select = s.outRow + RoundUp64(W * channels * elemBytes);
   return s;
 }
@@ -128,7 +129,7 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
                    pBuffer, static_cast<const void*>(pSrc) == pDst);
   const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
   ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out) {
-    MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.select, out, int64_t{roiSize.width} * C);
+    MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, int64_t{roiSize.width} * C);
   });
   return pelStatusOk;
 }

@@ -7,6 +7,8 @@
 #define HWY_TARGET_INCLUDE "filter/row_filter_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
+#include <utility>
+
 #include "filter/filter_scalar.h"
 #include "filter/median_network.h"
 #include "filter/row_filter_kernels.h"
@@ -28,8 +30,8 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
     scalar::ExtremeRow(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), 0, lanes);
   });
 }
-void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
-                     int64_t lanes) {
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
+                     void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
     scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), 0, lanes);
@@ -73,65 +75,87 @@ HWY_INLINE void StoreRounded(DF df, hn::Vec<DF> v, int round, T* dst) {
   hn::StoreU(hn::DemoteTo(hn::Rebind<T, DF>(), hn::ConvertTo(di, v)), hn::Rebind<T, DF>(), dst);
 }
 
-template <class T>
-void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
+// kU vectors of output from lane l: the sums run over the taps in the
+// reference's order, kU chunks side by side so that the additions of one
+// chunk do not wait for those of another.
+template <int kU, class T>
+HWY_INLINE void CorrelateBlock(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t l) {
   const int kn = job.kw * job.kh;
-  int64_t l = 0;
   if constexpr (std::is_same_v<T, double>) {
     const hn::ScalableTag<double> d;
     const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-    for (; l + N <= lanes; l += N) {
-      auto acc = hn::Zero(d);
-      const double* k = job.revD + kn;
+    hn::Vec<decltype(d)> acc[kU];
+    for (int u = 0; u < kU; ++u) acc[u] = hn::Zero(d);
+    const double* k = job.revD + kn;
+    for (int i = 0; i < job.kh; ++i)
+      for (int j = 0; j < job.kw; ++j) {
+        const auto coef = hn::Set(d, *--k);
+        const double* p = At<double>(rows[i], l + j * job.C);
+        for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, hn::LoadU(d, p + u * N)));
+      }
+    for (int u = 0; u < kU; ++u) hn::StoreU(hn::Add(acc[u], hn::Set(d, job.offsetD)), d, dst + l + u * N);
+  } else if (job.intKernel) {
+    if constexpr (!std::is_floating_point_v<T>) {
+      const hn::ScalableTag<float> df;
+      const hn::ScalableTag<int32_t> di;
+      const int64_t N = static_cast<int64_t>(hn::Lanes(di));
+      hn::Vec<decltype(di)> acc[kU];
+      for (int u = 0; u < kU; ++u) acc[u] = hn::Set(di, job.offsetI);
+      const int16_t* k = job.revI + kn;
       for (int i = 0; i < job.kh; ++i)
-        for (int j = 0; j < job.kw; ++j)
-          acc = hn::Add(acc, hn::Mul(hn::Set(d, *--k), hn::LoadU(d, At<double>(rows[i], l + j * job.C))));
-      hn::StoreU(hn::Add(acc, hn::Set(d, job.offsetD)), d, dst + l);
+        for (int j = 0; j < job.kw; ++j) {
+          const auto coef = hn::Set(di, *--k);
+          const T* p = At<T>(rows[i], l + j * job.C);
+          for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, LoadWide(di, p + u * N)));
+        }
+      const int n = job.shift;
+      const auto addend = hn::Set(di, n > 0 ? (1 << (n - 1)) : 0);
+      const auto one = hn::Set(di, 1);
+      for (int u = 0; u < kU; ++u) {
+        auto a = acc[u];
+        T* out = dst + l + u * N;
+        if (job.divMode == 2) {
+          StoreRounded(df, hn::Mul(hn::ConvertTo(df, a), hn::Set(df, job.scale)), job.round, out);
+          continue;
+        }
+        if (job.divMode == 1) {
+          const auto neg = hn::Lt(a, hn::Zero(di));
+          hn::Vec<decltype(di)> add;
+          if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
+          else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(a, n), one));
+          else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
+          a = hn::ShiftRightSame(hn::Add(a, add), n);
+        }
+        hn::StoreU(hn::DemoteTo(hn::Rebind<T, decltype(di)>(), a), hn::Rebind<T, decltype(di)>(), out);
+      }
     }
   } else {
     const hn::ScalableTag<float> df;
-    const hn::ScalableTag<int32_t> di;
     const int64_t N = static_cast<int64_t>(hn::Lanes(df));
-    if (job.intKernel) {
-      if constexpr (!std::is_floating_point_v<T>) {
-        const int n = job.shift;
-        const auto addend = hn::Set(di, n > 0 ? (1 << (n - 1)) : 0);
-        const auto one = hn::Set(di, 1);
-        for (; l + N <= lanes; l += N) {
-          auto acc = hn::Zero(di);
-          const int16_t* k = job.revI + kn;
-          for (int i = 0; i < job.kh; ++i)
-            for (int j = 0; j < job.kw; ++j)
-              acc = hn::Add(acc, hn::Mul(hn::Set(di, *--k), LoadWide(di, At<T>(rows[i], l + j * job.C))));
-          acc = hn::Add(acc, hn::Set(di, job.offsetI));
-          if (job.divMode == 2) {
-            StoreRounded(df, hn::Mul(hn::ConvertTo(df, acc), hn::Set(df, job.scale)), job.round, dst + l);
-            continue;
-          }
-          if (job.divMode == 1) {
-            const auto neg = hn::Lt(acc, hn::Zero(di));
-            hn::Vec<decltype(di)> add;
-            if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
-            else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(acc, n), one));
-            else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
-            acc = hn::ShiftRightSame(hn::Add(acc, add), n);
-          }
-          hn::StoreU(hn::DemoteTo(hn::Rebind<T, decltype(di)>(), acc), hn::Rebind<T, decltype(di)>(), dst + l);
-        }
+    hn::Vec<decltype(df)> acc[kU];
+    for (int u = 0; u < kU; ++u) acc[u] = hn::Zero(df);
+    const float* k = job.revF + kn;
+    for (int i = 0; i < job.kh; ++i)
+      for (int j = 0; j < job.kw; ++j) {
+        const auto coef = hn::Set(df, *--k);
+        const T* p = At<T>(rows[i], l + j * job.C);
+        for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, LoadWide(df, p + u * N)));
       }
-    } else {
-      for (; l + N <= lanes; l += N) {
-        auto acc = hn::Zero(df);
-        const float* k = job.revF + kn;
-        for (int i = 0; i < job.kh; ++i)
-          for (int j = 0; j < job.kw; ++j)
-            acc = hn::Add(acc, hn::Mul(hn::Set(df, *--k), LoadWide(df, At<T>(rows[i], l + j * job.C))));
-        acc = hn::Add(acc, hn::Set(df, job.offsetF));
-        if constexpr (std::is_same_v<T, float>) hn::StoreU(acc, df, dst + l);
-        else StoreRounded(df, acc, job.round, dst + l);
-      }
+    for (int u = 0; u < kU; ++u) {
+      const auto a = hn::Add(acc[u], hn::Set(df, job.offsetF));
+      if constexpr (std::is_same_v<T, float>) hn::StoreU(a, df, dst + l + u * N);
+      else StoreRounded(df, a, job.round, dst + l + u * N);
     }
   }
+}
+
+template <class T>
+void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
+  int64_t l = 0;
+  for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
+  for (; l + N <= lanes; l += N) CorrelateBlock<1>(job, rows, dst, l);
   scalar::CorrelateRow(job, rows, dst, l, lanes);
 }
 
@@ -177,9 +201,49 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
   });
 }
 
-// Small medians: the selection network over the kw x kh taps of each lane.
+// Small medians: the selection network over the kw x kh taps of each lane,
+// unrolled at compile time for the common sizes so that the taps stay in
+// registers; other sizes walk the network's table.
+template <int kN, class V, size_t... I>
+HWY_INLINE void RunNetwork(V* v, std::index_sequence<I...>) {
+  constexpr MedianNetwork net = MedianNetworkOf<kN>();
+  (
+      [&] {
+        V& a = v[net.a[I]];
+        V& b = v[net.b[I]];
+        const V lo = hn::Min(a, b);
+        if constexpr ((net.use[I] & 2) != 0) b = hn::Max(a, b);
+        a = lo;
+      }(),
+      ...);
+}
+
+template <int kN, class T>
+int64_t MedianFixed(int C, int kw, int kh, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  constexpr int kOps = MedianNetworkOf<kN>().count;
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  using V = hn::Vec<decltype(d)>;
+  int64_t l = 0;
+  for (; l + N <= lanes; l += N) {
+    V v[kN];
+    for (int i = 0; i < kh; ++i)
+      for (int j = 0; j < kw; ++j) v[i * kw + j] = hn::LoadU(d, At<T>(rows[i], l + j * C));
+    RunNetwork<kN>(v, std::make_index_sequence<kOps>());
+    hn::StoreU(v[(kN - 1) / 2], d, dst + l);
+  }
+  return l;
+}
+
 template <class T>
 int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  switch (kw * kh) {
+    case 3: return MedianFixed<3>(C, kw, kh, rows, dst, lanes);
+    case 5: return MedianFixed<5>(C, kw, kh, rows, dst, lanes);
+    case 9: return MedianFixed<9>(C, kw, kh, rows, dst, lanes);
+    case 15: return MedianFixed<15>(C, kw, kh, rows, dst, lanes);
+    case 25: return MedianFixed<25>(C, kw, kh, rows, dst, lanes);
+  }
   MedianNetwork net;
   BuildMedianNetwork(kw * kh, net);
   const hn::ScalableTag<T> d;
@@ -197,6 +261,45 @@ int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* ds
       a = lo;
     }
     hn::StoreU(v[(kw * kh - 1) / 2], d, dst + l);
+  }
+  return l;
+}
+
+// 3x3: each column of three is sorted once for the three outputs that share
+// it; the median of the nine is then the median of the largest column
+// minimum, the median of the column medians and the smallest column maximum.
+template <class T>
+int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t span = lanes + 2 * int64_t{C};
+  T* lo = wide;
+  T* mid = wide + span;
+  T* hi = wide + 2 * span;
+  int64_t l = 0;
+  for (; l + N <= span; l += N) {
+    const auto a = hn::LoadU(d, At<T>(rows[0], l));
+    const auto b = hn::LoadU(d, At<T>(rows[1], l));
+    const auto c = hn::LoadU(d, At<T>(rows[2], l));
+    const auto ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
+    hn::StoreU(hn::Min(ab0, c), d, lo + l);
+    const auto t = hn::Max(ab0, c);
+    hn::StoreU(hn::Min(ab1, t), d, mid + l);
+    hn::StoreU(hn::Max(ab1, t), d, hi + l);
+  }
+  for (; l < span; ++l) {
+    const T a = scalar::Load<T>(rows[0], l), b = scalar::Load<T>(rows[1], l), c = scalar::Load<T>(rows[2], l);
+    const T ab0 = scalar::MinOf(a, b), ab1 = scalar::MaxOf(a, b), t = scalar::MaxOf(ab0, c);
+    lo[l] = scalar::MinOf(ab0, c);
+    mid[l] = scalar::MinOf(ab1, t);
+    hi[l] = scalar::MaxOf(ab1, t);
+  }
+  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  for (l = 0; l + N <= lanes; l += N) {
+    const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + l), hn::LoadU(d, lo + l + C)), hn::LoadU(d, lo + l + 2 * C));
+    const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + l), hn::LoadU(d, hi + l + C)), hn::LoadU(d, hi + l + 2 * C));
+    const auto medMid = med3(hn::LoadU(d, mid + l), hn::LoadU(d, mid + l + C), hn::LoadU(d, mid + l + 2 * C));
+    hn::StoreU(med3(maxLo, medMid, minHi), d, dst + l);
   }
   return l;
 }
@@ -227,13 +330,14 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   return l;
 }
 
-void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
-                     int64_t lanes) {
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch,
+                     void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
     int64_t done = 0;
     if constexpr (!std::is_same_v<T, double>) {
-      if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+      if (kw == 3 && kh == 3) done = Median3x3(C, rows, static_cast<T*>(wide), static_cast<T*>(dst), lanes);
+      else if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
       else if constexpr (std::is_same_v<T, uint8_t>) {
         if (kw * kh <= 255) done = MedianByBits(C, kw, kh, rows, static_cast<T*>(dst), lanes);
       }
@@ -351,9 +455,9 @@ void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const
                 int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(ExtremeRowTarget)(lane, max, C, kw, kh, rows, tmp, dst, lanes);
 }
-void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
                int64_t lanes) {
-  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, scratch, dst, lanes);
+  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, wide, scratch, dst, lanes);
 }
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes) {

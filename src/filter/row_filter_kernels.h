@@ -58,8 +58,9 @@ void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst
 void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
                 int64_t lanes);
 
-// Median over kw x kh (odd sizes); scratch holds kw x kh elements.
-void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
+// Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
+// elements, scratch kw x kh.
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
                int64_t lanes);
 
 // Box mean over kw x kh; colSums holds lanes + (kw - 1) x C eight-byte sums.
