@@ -7,6 +7,7 @@
 #define HWY_TARGET_INCLUDE "filter/row_filter_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
+#include <algorithm>
 #include <utility>
 
 #include "filter/filter_scalar.h"
@@ -167,30 +168,30 @@ template <class T>
 void Extreme(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, int64_t lanes) {
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-  const int64_t wide = lanes + int64_t{kw - 1} * C;
-  // max/min with the operand order of scalar::MaxOf/MinOf.
+  const int64_t reach = int64_t{kw - 1} * C;
+  // max/min with the operand order of scalar::MaxOf/MinOf; both are
+  // idempotent, so a last vector may overlap the one before it.
   auto op = [max](auto a, auto b) { return max ? hn::Max(a, b) : hn::Min(a, b); };
-  int64_t l = 0;
-  for (; l + N <= wide; l += N) {
-    auto v = hn::LoadU(d, At<T>(rows[0], l));
-    for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], l)));
-    hn::StoreU(v, d, tmp + l);
+  // Pieces whose vertical extremes stay in the first-level cache.
+  const int64_t piece = N * std::max<int64_t>(1, 4096 / (N * static_cast<int64_t>(sizeof(T))));
+  int64_t base = 0;
+  for (; base + N <= lanes; base += piece) {
+    const int64_t len = std::min(piece, lanes - base);
+    const int64_t span = len + reach;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);
+      auto v = hn::LoadU(d, At<T>(rows[0], base + at));
+      for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], base + at)));
+      hn::StoreU(v, d, tmp + at);
+    }
+    for (int64_t l = 0; l < len; l += N) {
+      const int64_t at = std::min(l, len - N);
+      auto v = hn::LoadU(d, tmp + at);
+      for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + at + j * C));
+      hn::StoreU(v, d, dst + base + at);
+    }
   }
-  for (; l < wide; ++l) {
-    T v = scalar::Load<T>(rows[0], l);
-    for (int i = 1; i < kh; ++i) v = max ? scalar::MaxOf(v, scalar::Load<T>(rows[i], l)) : scalar::MinOf(v, scalar::Load<T>(rows[i], l));
-    tmp[l] = v;
-  }
-  for (l = 0; l + N <= lanes; l += N) {
-    auto v = hn::LoadU(d, tmp + l);
-    for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + l + j * C));
-    hn::StoreU(v, d, dst + l);
-  }
-  for (; l < lanes; ++l) {
-    T v = tmp[l];
-    for (int j = 1; j < kw; ++j) v = max ? scalar::MaxOf(v, tmp[l + j * C]) : scalar::MinOf(v, tmp[l + j * C]);
-    dst[l] = v;
-  }
+  if (base < lanes) scalar::ExtremeRow(max, C, kw, kh, rows, tmp, dst, base, lanes);
 }
 
 void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
@@ -272,36 +273,39 @@ template <class T>
 int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t lanes) {
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-  const int64_t span = lanes + 2 * int64_t{C};
+  // Pieces of the row small enough for the sorted columns to stay in the
+  // first-level cache between the two passes.
+  if (lanes < N) return 0;
+  const int64_t piece =
+      std::min(lanes / N, std::max<int64_t>(1, 2048 / (N * static_cast<int64_t>(sizeof(T))))) * N;
   T* lo = wide;
-  T* mid = wide + span;
-  T* hi = wide + 2 * span;
-  int64_t l = 0;
-  for (; l + N <= span; l += N) {
-    const auto a = hn::LoadU(d, At<T>(rows[0], l));
-    const auto b = hn::LoadU(d, At<T>(rows[1], l));
-    const auto c = hn::LoadU(d, At<T>(rows[2], l));
-    const auto ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
-    hn::StoreU(hn::Min(ab0, c), d, lo + l);
-    const auto t = hn::Max(ab0, c);
-    hn::StoreU(hn::Min(ab1, t), d, mid + l);
-    hn::StoreU(hn::Max(ab1, t), d, hi + l);
-  }
-  for (; l < span; ++l) {
-    const T a = scalar::Load<T>(rows[0], l), b = scalar::Load<T>(rows[1], l), c = scalar::Load<T>(rows[2], l);
-    const T ab0 = scalar::MinOf(a, b), ab1 = scalar::MaxOf(a, b), t = scalar::MaxOf(ab0, c);
-    lo[l] = scalar::MinOf(ab0, c);
-    mid[l] = scalar::MinOf(ab1, t);
-    hi[l] = scalar::MaxOf(ab1, t);
-  }
+  T* mid = wide + piece + 2 * C;
+  T* hi = mid + piece + 2 * C;
   auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
-  for (l = 0; l + N <= lanes; l += N) {
-    const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + l), hn::LoadU(d, lo + l + C)), hn::LoadU(d, lo + l + 2 * C));
-    const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + l), hn::LoadU(d, hi + l + C)), hn::LoadU(d, hi + l + 2 * C));
-    const auto medMid = med3(hn::LoadU(d, mid + l), hn::LoadU(d, mid + l + C), hn::LoadU(d, mid + l + 2 * C));
-    hn::StoreU(med3(maxLo, medMid, minHi), d, dst + l);
+  int64_t base = 0;
+  for (; base + N <= lanes; base += piece) {
+    const int64_t len = std::min(piece, lanes - base) / N * N;
+    const int64_t span = len + 2 * C;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
+      const auto a = hn::LoadU(d, At<T>(rows[0], base + at));
+      const auto b = hn::LoadU(d, At<T>(rows[1], base + at));
+      const auto c = hn::LoadU(d, At<T>(rows[2], base + at));
+      const auto ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
+      hn::StoreU(hn::Min(ab0, c), d, lo + at);
+      const auto t = hn::Max(ab0, c);
+      hn::StoreU(hn::Min(ab1, t), d, mid + at);
+      hn::StoreU(hn::Max(ab1, t), d, hi + at);
+    }
+    for (int64_t l = 0; l < len; l += N) {
+      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + l), hn::LoadU(d, lo + l + C)), hn::LoadU(d, lo + l + 2 * C));
+      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + l), hn::LoadU(d, hi + l + C)), hn::LoadU(d, hi + l + 2 * C));
+      const auto medMid = med3(hn::LoadU(d, mid + l), hn::LoadU(d, mid + l + C), hn::LoadU(d, mid + l + 2 * C));
+      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + base + l);
+    }
+    if (len < piece) return base + len;
   }
-  return l;
+  return base;
 }
 
 // Larger 8-bit medians: the result is built bit by bit from the top; a bit
@@ -365,19 +369,27 @@ int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, u
     for (int i = 0; i < kh; ++i) s += rows[i][l];
     col[l] = static_cast<uint16_t>(s);
   }
-  const hn::ScalableTag<int32_t> di;
-  const hn::ScalableTag<float> df;
-  const int64_t N = static_cast<int64_t>(hn::Lanes(di));
+  // Sums of up to 257 taps fit 16-bit lanes; the division widens them.
+  const hn::Half<decltype(d16)> dh16;
+  const hn::Rebind<uint32_t, decltype(dh16)> du;
+  const hn::RebindToSigned<decltype(du)> di;
+  const hn::Rebind<float, decltype(di)> df;
+  const hn::Rebind<uint8_t, decltype(di)> d8;
+  const int64_t NH = static_cast<int64_t>(hn::Lanes(di));
   const int n = kw * kh;
   const auto bias = hn::Set(di, n);
   const auto half = hn::Set(df, 0.5f);
   const auto recip = hn::Set(df, 1.0f / static_cast<float>(2 * n));
-  for (l = 0; l + N <= lanes; l += N) {
-    auto s = hn::Zero(di);
-    for (int j = 0; j < kw; ++j) s = hn::Add(s, LoadWide(di, col + l + j * C));
+  auto mean = [&](auto s16, uint8_t* out) {
+    const auto s = hn::BitCast(di, hn::PromoteTo(du, s16));
     const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
-    hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(di)>(), hn::ConvertTo(di, q)),
-               hn::Rebind<uint8_t, decltype(di)>(), dst + l);
+    hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
+  };
+  for (l = 0; l + N16 <= lanes; l += N16) {
+    auto s = hn::Zero(d16);
+    for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
+    mean(hn::LowerHalf(dh16, s), dst + l);
+    mean(hn::UpperHalf(dh16, s), dst + l + NH);
   }
   return l;
 }
