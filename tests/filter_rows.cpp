@@ -23,6 +23,13 @@ std::string Tag(const char* prefix, long value) {
   return s;
 }
 
+// Guard bytes after each work buffer and spec.
+constexpr size_t kGuard = 64;
+PelStatus Guarded(PelStatus status, const std::vector<uint8_t>& b) {
+  const bool intact = std::all_of(b.end() - kGuard, b.end(), [](uint8_t v) { return v == 0xA5; });
+  return intact ? status : static_cast<PelStatus>(-9999);
+}
+
 // ---- The extended source ---------------------------------------------------------
 
 struct Mask {
@@ -154,8 +161,10 @@ struct Prepared {
     int specSize = 0, bufSize = 0;
     const PeliSize safe{std::max(roi.width, 1), std::max(roi.height, 1)};
     peliFilterBorderGetSize({kn.k.kw, kn.k.kh}, safe, TypeCode<T>(), kt, C, &specSize, &bufSize);
-    spec.resize(size_t(specSize));
-    buffer.resize(size_t(bufSize));
+    spec.resize(size_t(specSize) + kGuard, 0xA5);
+    buffer.resize(size_t(bufSize) + kGuard, 0xA5);
+    std::fill(buffer.begin(), buffer.end() - kGuard, uint8_t{0});
+    std::fill(spec.begin(), spec.end() - kGuard, uint8_t{0});
     const int n = kn.k.kw * kn.k.kh;
     auto* s = reinterpret_cast<PeliFilterBorderSpec*>(spec.data());
     if (std::is_same_v<T, Pel64f>) {
@@ -228,10 +237,11 @@ void AddFilter(std::vector<Row>& rows, const char* name, FilterFn<T> fn, int C, 
   rows.push_back({name, kn.Name(), args,
                   [=](Call& c) {
                     Prepared<T> p(kn, c.roi, C);
-                    return fn(RoiOf<T>(c, k, C), c.step(0), c.p<T>(1), c.step(1), c.roi, k.border,
-                              constant ? c.p<T>(2) : nullptr,
-                              c.own(0, reinterpret_cast<const PeliFilterBorderSpec*>(p.spec.data())),
-                              c.own(1, p.buffer.data()));
+                    const PelStatus st = fn(RoiOf<T>(c, k, C), c.step(0), c.p<T>(1), c.step(1), c.roi, k.border,
+                                            constant ? c.p<T>(2) : nullptr,
+                                            c.own(0, reinterpret_cast<const PeliFilterBorderSpec*>(p.spec.data())),
+                                            c.own(1, p.buffer.data()));
+                    return Guarded(Guarded(st, p.buffer), p.spec);
                   },
                   [=](Model& m) -> PelStatus {
                     if (expect != pelStatusOk) return expect;
@@ -299,11 +309,15 @@ T BoxMean(const std::vector<T>& h, int kw) {
   }
 }
 
+// A work buffer of the size the library asks for, with guard bytes after
+// it: a call that writes past its buffer reports itself through Guarded.
 std::vector<uint8_t> BufferFor(SizeFn size, PeliSize roi, const Mask& k, PelDataType type, int C) {
   int bytes = 0;
   const PeliSize safe{std::max(roi.width, 1), std::max(roi.height, 1)};
   if (size(safe, {std::max(k.kw | 1, 1), std::max(k.kh | 1, 1)}, type, C, &bytes) != pelStatusOk) bytes = 64;
-  return std::vector<uint8_t>(size_t(bytes));
+  std::vector<uint8_t> b(size_t(bytes) + kGuard, 0);
+  std::fill(b.end() - kGuard, b.end(), uint8_t{0xA5});
+  return b;
 }
 
 template <class T>
@@ -328,10 +342,12 @@ void AddRank(std::vector<Row>& rows, const char* name, Op op, RankFn<T> rank, Bo
                     std::vector<uint8_t> buf = BufferFor(size, c.roi, k, TypeCode<T>(), C);
                     const T* src = RoiOf<T>(c, k, C);
                     if (op == Op::Box)
-                      return box(src, c.step(0), c.p<T>(1), c.step(1), c.roi, {k.kw, k.kh}, k.border,
-                                 constant ? c.p<T>(2) : c.unswept<T>(2), c.own(0, buf.data()));
-                    return rank(src, c.step(0), c.p<T>(1), c.step(1), c.roi, {k.kw, k.kh}, k.border, c.v<T>(2),
-                                c.own(0, buf.data()));
+                      return Guarded(box(src, c.step(0), c.p<T>(1), c.step(1), c.roi, {k.kw, k.kh}, k.border,
+                                         constant ? c.p<T>(2) : c.unswept<T>(2), c.own(0, buf.data())),
+                                     buf);
+                    return Guarded(rank(src, c.step(0), c.p<T>(1), c.step(1), c.roi, {k.kw, k.kh}, k.border,
+                                        c.v<T>(2), c.own(0, buf.data())),
+                                   buf);
                   },
                   [=](Model& m) -> PelStatus {
                     if (expect != pelStatusOk) return expect;
@@ -572,6 +588,10 @@ std::vector<Row> FilterRows() {
     PEL_RANK(Median, Op::Median, 8u, C1, 1, 1, peliFilterMedianBorder_8u_C1R, nullptr);
     masks.pop_back();
     PEL_RANK(Median, Op::Median, 16s, C1, 1, 1, peliFilterMedianBorder_16s_C1R, nullptr);
+    masks = {{7, 7, pelBorderReplicate}, {9, 9, pelBorderReplicate}};
+    PEL_RANK(Median, Op::Median, 8u, C3, 3, 3, peliFilterMedianBorder_8u_C3R, nullptr);
+    masks = {{9, 9, pelBorderReplicate}};
+    PEL_RANK(Box, Op::Box, 8u, C3, 3, 3, nullptr, peliFilterBoxBorder_8u_C3R);
     masks = {{23, 13, pelBorderReplicate}, {1, 1, pelBorderMirror}};
     PEL_RANK(Box, Op::Box, 8u, C1, 1, 1, nullptr, peliFilterBoxBorder_8u_C1R);
     auto bad = [&](const char* name, Op op, RankFn<Pel8u> r, BoxFn<Pel8u> b, SizeFn s, Mask k, PelStatus e) {
