@@ -336,8 +336,12 @@ PelStatus FilterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSiz
   // Nearest-even float rounding is the processor's default; make it so for
   // the call whatever the caller's control word says.
   RoundingScope nearest(RoundingScope::kNearest);
-  for (int64_t y = 0; y < roiSize.height; ++y)
-    CorrelateRow(job, window.Rows(y), Row(pDst, dstStep, y), int64_t{roiSize.width} * C);
+  RowWindow::Run runs[3];
+  for (int64_t y = 0; y < roiSize.height; ++y) {
+    T* d = Row(pDst, dstStep, y);
+    const int n = window.Runs(y, runs);
+    for (int k = 0; k < n; ++k) CorrelateRow(job, runs[k].rows, d + runs[k].x0 * C, runs[k].count * C);
+  }
   return pelStatusOk;
 }
 

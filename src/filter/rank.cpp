@@ -58,19 +58,18 @@ Scratch ScratchAfter(uint8_t* end, int64_t W, const MaskGeometry& g, int64_t ele
 
 namespace {
 
-// Runs `row(rows, out)` for every output row; AC4 rows go through a
-// scratch row whose colour lanes are then copied.
+// Runs `row(rows, out, lanes)` over every run of every output row; AC4 rows
+// go through a scratch row whose colour lanes are then copied.
 template <class T, int C, int W, class F>
 void ForEachRow(RowWindow& window, T* pDst, int dstStep, PeliSize roi, uint8_t* outRow, F&& row) {
+  RowWindow::Run runs[3];
   for (int64_t y = 0; y < roi.height; ++y) {
     T* d = Row(pDst, dstStep, y);
-    if constexpr (W == C) {
-      row(window.Rows(y), d);
-    } else {
-      T* tmp = reinterpret_cast<T*>(outRow);
-      row(window.Rows(y), tmp);
-      for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d + x * C, tmp + x * C, sizeof(T) * W);
-    }
+    T* out = W == C ? d : reinterpret_cast<T*>(outRow);
+    const int n = window.Runs(y, runs);
+    for (int k = 0; k < n; ++k) row(runs[k].rows, out + runs[k].x0 * C, runs[k].count * C);
+    if constexpr (W != C)
+      for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d + x * C, out + x * C, sizeof(T) * W);
   }
 }
 
@@ -128,8 +127,8 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
   RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
                    pBuffer, static_cast<const void*>(pSrc) == pDst);
   const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out) {
-    MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, int64_t{roiSize.width} * C);
+  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
+    MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);
   });
   return pelStatusOk;
 }
@@ -152,8 +151,8 @@ PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize
   RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
                    pBuffer, static_cast<const void*>(pSrc) == pDst);
   const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out) {
-    BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, int64_t{roiSize.width} * C);
+  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
+    BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
   });
   return pelStatusOk;
 }
@@ -172,8 +171,8 @@ PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi
   RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
                    pBuffer, static_cast<const void*>(pSrc) == pDst);
   const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out) {
-    ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, int64_t{roiSize.width} * C);
+  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
+    ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
   });
   return pelStatusOk;
 }

@@ -154,24 +154,31 @@ template <class T>
 void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
   using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
   const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
+  if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
   int64_t l = 0;
   for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
   for (; l + N <= lanes; l += N) CorrelateBlock<1>(job, rows, dst, l);
-  scalar::CorrelateRow(job, rows, dst, l, lanes);
+  // The last lanes again as one full vector: every lane is computed on its
+  // own from the rows, so rewriting the overlap gives the same values.
+  if (l < lanes) CorrelateBlock<1>(job, rows, dst, lanes - N);
 }
 
 void CorrelateRowTarget(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
   VisitLane(job.lane, [&](auto t) { Correlate(job, rows, static_cast<decltype(t)*>(dst), lanes); });
 }
 
-template <class T>
-void Extreme(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, int64_t lanes) {
+template <bool kMax, class T>
+void Extreme(int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, int64_t lanes) {
+  constexpr bool max = kMax;
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   const int64_t reach = int64_t{kw - 1} * C;
   // max/min with the operand order of scalar::MaxOf/MinOf; both are
   // idempotent, so a last vector may overlap the one before it.
-  auto op = [max](auto a, auto b) { return max ? hn::Max(a, b) : hn::Min(a, b); };
+  auto op = [](auto a, auto b) {
+    if constexpr (kMax) return hn::Max(a, b);
+    else return hn::Min(a, b);
+  };
   // Pieces whose vertical extremes stay in the first-level cache.
   const int64_t piece = N * std::max<int64_t>(1, 4096 / (N * static_cast<int64_t>(sizeof(T))));
   int64_t base = 0;
@@ -198,7 +205,8 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
                       int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
-    Extreme(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+    if (max) Extreme<true>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+    else Extreme<false>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
   });
 }
 
@@ -225,15 +233,16 @@ int64_t MedianFixed(int C, int kw, int kh, const uint8_t* const* rows, T* dst, i
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
-  int64_t l = 0;
-  for (; l + N <= lanes; l += N) {
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     V v[kN];
     for (int i = 0; i < kh; ++i)
       for (int j = 0; j < kw; ++j) v[i * kw + j] = hn::LoadU(d, At<T>(rows[i], l + j * C));
     RunNetwork<kN>(v, std::make_index_sequence<kOps>());
     hn::StoreU(v[(kN - 1) / 2], d, dst + l);
   }
-  return l;
+  return lanes;
 }
 
 template <class T>
@@ -282,9 +291,12 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   T* mid = wide + piece + 2 * C;
   T* hi = mid + piece + 2 * C;
   auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
-  int64_t base = 0;
-  for (; base + N <= lanes; base += piece) {
-    const int64_t len = std::min(piece, lanes - base) / N * N;
+  for (int64_t base = 0; base < lanes;) {
+    int64_t len = std::min(piece, lanes - base);
+    if (len < N) {  // a last piece of one vector overlapping the one before
+      base = lanes - N;
+      len = N;
+    }
     const int64_t span = len + 2 * C;
     for (int64_t l = 0; l < span; l += N) {
       const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
@@ -298,14 +310,15 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
       hn::StoreU(hn::Max(ab1, t), d, hi + at);
     }
     for (int64_t l = 0; l < len; l += N) {
-      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + l), hn::LoadU(d, lo + l + C)), hn::LoadU(d, lo + l + 2 * C));
-      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + l), hn::LoadU(d, hi + l + C)), hn::LoadU(d, hi + l + 2 * C));
-      const auto medMid = med3(hn::LoadU(d, mid + l), hn::LoadU(d, mid + l + C), hn::LoadU(d, mid + l + 2 * C));
-      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + base + l);
+      const int64_t at = std::min(l, len - N);
+      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
+      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
+      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
+      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + base + at);
     }
-    if (len < piece) return base + len;
+    base += len;
   }
-  return base;
+  return lanes;
 }
 
 // Larger 8-bit medians: the result is built bit by bit from the top; a bit
@@ -315,8 +328,9 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   const hn::ScalableTag<uint8_t> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   const auto rank = hn::Set(d, static_cast<uint8_t>((kw * kh - 1) / 2));
-  int64_t l = 0;
-  for (; l + N <= lanes; l += N) {
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto result = hn::Zero(d);
     for (int bit = 7; bit >= 0; --bit) {
       const auto t = hn::Or(result, hn::Set(d, static_cast<uint8_t>(1u << bit)));
@@ -331,7 +345,7 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
     }
     hn::StoreU(result, d, dst + l);
   }
-  return l;
+  return lanes;
 }
 
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch,
@@ -385,13 +399,15 @@ int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, u
     const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
     hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
   };
-  for (l = 0; l + N16 <= lanes; l += N16) {
+  if (lanes < N16) return 0;
+  for (int64_t x = 0; x < lanes; x += N16) {
+    l = std::min(x, lanes - N16);  // the last vector may overlap the one before
     auto s = hn::Zero(d16);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
     mean(hn::LowerHalf(dh16, s), dst + l);
     mean(hn::UpperHalf(dh16, s), dst + l + NH);
   }
-  return l;
+  return lanes;
 }
 
 // 32f box: f64 column sums, then the kw sums left to right, as the reference.
@@ -412,12 +428,14 @@ int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, f
     col[l] = s;
   }
   const auto n = hn::Set(d, static_cast<double>(int64_t{kw} * kh));
-  for (l = 0; l + N <= lanes; l += N) {
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto s = hn::Zero(d);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d, col + l + j * C));
     hn::StoreU(hn::DemoteTo(dh, hn::Div(s, n)), dh, dst + l);
   }
-  return l;
+  return lanes;
 }
 
 void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,

@@ -45,6 +45,17 @@ class RowWindow {
   // The kh rows of output row y (y ascending from 0 by one each call), each
   // pointing at the pixel of column -ax.
   const uint8_t* const* Rows(int64_t y);
+
+  // Output row y in up to three runs of pixels [x0, x0 + count), each with
+  // its kh rows pointing at column x0 - ax: the left and right edges, whose
+  // reach is extended into small strips, and between them the interior,
+  // read from the source where it lies (rows inside the ROI or on an
+  // in-memory side), so that a row is not copied just to be read once.
+  struct Run {
+    const uint8_t* const* rows;
+    int64_t x0, count;
+  };
+  int Runs(int64_t y, Run (&runs)[3]);
   // The row that was first in the previous call's window (valid when y > 0).
   const uint8_t* Leaving() const { return leaving_; }
   uint8_t* End() const { return end_; }
@@ -58,6 +69,12 @@ class RowWindow {
   datamove::PixelBytes px_;
   MaskGeometry g_;
   bool rowsDirect_;  // no horizontal border is built: rows in memory are read in place
+  bool split_;       // the interior of a row is read in place, its edges built into strips
+  int64_t interior0_, interior1_;  // the interior's output pixels
+  int64_t leftBytes_, rightBytes_;  // a strip's bytes (rounded)
+  uint8_t* strips_;
+  int64_t* stripRow_;               // which extended row each strip slot holds
+  const uint8_t** runRows_;         // 3 x kh pointers handed out by Runs
   int64_t rowBytes_;
   uint8_t* ring_;
   int64_t* ringRow_;             // which extended row each ring slot holds
