@@ -58,16 +58,22 @@ Scratch ScratchAfter(uint8_t* end, int64_t W, const MaskGeometry& g, int64_t ele
 
 namespace {
 
-// Runs `row(rows, out, lanes)` over every run of every output row; AC4 rows
-// go through a scratch row whose colour lanes are then copied.
+// Filters every run of every output row with `row(rows, out, lanes,
+// scratch)`, the border pixel being `pixel`; AC4 rows go through a scratch
+// row whose colour lanes are then copied.
 template <class T, int C, int W, class F>
-void ForEachRow(RowWindow& window, T* pDst, int dstStep, PeliSize roi, uint8_t* outRow, F&& row) {
+void Filtered(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi, PeliSize mask, int border,
+              const T* pixel, Pel8u* pBuffer, F&& row) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel), pBuffer,
+                   static_cast<const void*>(pSrc) == pDst);
+  const Scratch s = ScratchAfter(window.End(), roi.width, g, sizeof(T), C);
   RowWindow::Run runs[3];
   for (int64_t y = 0; y < roi.height; ++y) {
     T* d = Row(pDst, dstStep, y);
-    T* out = W == C ? d : reinterpret_cast<T*>(outRow);
+    T* out = W == C ? d : reinterpret_cast<T*>(s.outRow);
     const int n = window.Runs(y, runs);
-    for (int k = 0; k < n; ++k) row(runs[k].rows, out + runs[k].x0 * C, runs[k].count * C);
+    for (int k = 0; k < n; ++k) row(runs[k].rows, out + runs[k].x0 * C, runs[k].count * C, s);
     if constexpr (W != C)
       for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d + x * C, out + x * C, sizeof(T) * W);
   }
@@ -123,13 +129,10 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
   }
   T pixel[4];
   FillPixel<T, C>(pixel, borderValue);
-  const MaskGeometry g = GeometryOf(maskSize.width, maskSize.height);
-  RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
-                   pBuffer, static_cast<const void*>(pSrc) == pDst);
-  const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
-    MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);
-  });
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);
+                    });
   return pelStatusOk;
 }
 
@@ -147,13 +150,10 @@ PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize
   T pixel[4] = {};
   if (constant)
     for (int c = 0; c < W; ++c) pixel[c] = borderValue[c];
-  const MaskGeometry g = GeometryOf(maskSize.width, maskSize.height);
-  RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
-                   pBuffer, static_cast<const void*>(pSrc) == pDst);
-  const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
-    BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
-  });
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
+                    });
   return pelStatusOk;
 }
 
@@ -167,13 +167,10 @@ PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi
     return pelStatusBadBorderType;
   T pixel[4];
   FillPixel<T, C>(pixel, borderValue);
-  const MaskGeometry g = GeometryOf(maskSize.width, maskSize.height);
-  RowWindow window(pSrc, srcStep, roiSize.width, roiSize.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel),
-                   pBuffer, static_cast<const void*>(pSrc) == pDst);
-  const Scratch s = ScratchAfter(window.End(), roiSize.width, g, sizeof(T), C);
-  ForEachRow<T, C, W>(window, pDst, dstStep, roiSize, s.outRow, [&](const uint8_t* const* rows, T* out, int64_t lanes) {
-    ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
-  });
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
+                    });
   return pelStatusOk;
 }
 
