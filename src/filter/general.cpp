@@ -137,6 +137,13 @@ PelStatus FilterBorderGetSize(PeliSize kernelSize, PeliSize roiSize, PelDataType
   }
   if (AnyNull(pSpecSize, pBufferSize)) return pelStatusNullPointer;
 
+  // Far beyond what can be reported: refused before 64-bit products of a
+  // huge kernel and a huge ROI could overflow.
+  const double bound = (double(kernelSize.width) + roiSize.width) * (double(kernelSize.height) + roiSize.height) * 64;
+  if (bound > 1e15) {
+    *pBufferSize = 0;
+    return pelStatusSizeOverflow;
+  }
   const int64_t kw = kernelSize.width, kh = kernelSize.height, n = kw * kh, kwe = (kw + 1) & ~int64_t{1};
   int64_t spec;
   if (kernelType == pelType64f) {
@@ -165,7 +172,7 @@ PelStatus FilterBorderGetSize(PeliSize kernelSize, PeliSize roiSize, PelDataType
   const int64_t borderArea = ((px * elems + 31) & ~int64_t{31}) + 32;
   const int64_t work = (WindowBufferBytes(W, g, static_cast<int>(px)) + 191) & ~int64_t{63};
   const int64_t buffer = borderArea + work + (dataType == pelType64f ? 126 : 63);
-  if (buffer > kMaxReportedSize) {
+  if (buffer > kMaxReportedSize || spec > kMaxReportedSize) {
     *pBufferSize = 0;
     return pelStatusSizeOverflow;
   }

@@ -33,6 +33,14 @@ int64_t RankBufferBytes(int64_t W, PeliSize mask, int64_t elemBytes, int channel
          static_cast<int64_t>(RoundUp64(g.kw * g.kh * elemBytes)) + 64;
 }
 
+// Sizes far beyond what can be reported are refused before they are
+// computed in 64 bits, where a huge mask times a huge row would not fit.
+bool Oversized(int64_t W, PeliSize mask, int channels) {
+  const double bytes = (double(mask.height) + 2) * (double(W) + mask.width) * channels * 64 +
+                       double(mask.width) * mask.height * 8;
+  return bytes > 1e15;
+}
+
 PelStatus ReportSize(int64_t bytes, int* pBufferSize) {
   if (bytes > kMaxReportedSize) return pelStatusSizeOverflow;
   *pBufferSize = static_cast<int>(bytes);
@@ -93,6 +101,7 @@ PelStatus MedianGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType d
   if (BadSize(maskSize) || maskSize.width % 2 == 0 || maskSize.height % 2 == 0) return pelStatusBadMaskSize;
   if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
   if (!TypeOf4(dataType) || (numChannels != 1 && dataType == pelType32f)) return pelStatusDataTypeError;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
   return ReportSize(RankBufferBytes(roiSize.width, maskSize, ElementBytes(dataType), numChannels), pBufferSize);
 }
 
@@ -103,6 +112,7 @@ PelStatus BoxGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType data
   if (BadSize(maskSize)) return pelStatusBadMaskSize;
   if (!TypeOf4(dataType)) return pelStatusDataTypeError;
   if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
   return ReportSize(RankBufferBytes(roiSize.width, maskSize, ElementBytes(dataType), numChannels), pBufferSize);
 }
 
