@@ -362,10 +362,14 @@ void AddRank(std::vector<Row>& rows, const char* name, Op op, RankFn<T> rank, Bo
 
 // ---- Set-up calls ---------------------------------------------------------------------
 
+// A set-up or size call: its status, after the pointers (or before them,
+// for the size calls that check their parameters first).
 Row SetupRow(const char* name, const std::string& variant, std::vector<Arg> args, std::function<PelStatus(Call&)> call,
-             PelStatus expect, std::vector<Check> order) {
-  Row r{name, variant, std::move(args), std::move(call), [expect](Model&) { return expect; }, std::move(order),
-        expect < 0 ? expect : pelStatusOk};
+             int expect, bool paramFirst = false) {
+  const PelStatus e = static_cast<PelStatus>(expect);
+  std::vector<Check> order{Check::Pointers};
+  if (e < 0) order.insert(paramFirst ? order.begin() : order.end(), Check::Param);
+  Row r{name, variant, std::move(args), std::move(call), [e](Model&) { return e; }, order, e < 0 ? e : pelStatusOk};
   r.shapes = {Layout{3, 2}};
   return r;
 }
@@ -396,7 +400,7 @@ void AddGetSize(std::vector<Row>& rows) {
                      [k](Call& c) {
                        return peliFilterBorderGetSize(k.kernel, {9, 4}, k.data, k.kernelType, k.C, c.p<int>(0), c.p<int>(1));
                      },
-                     static_cast<PelStatus>(k.expect), k.expect ? std::vector<Check>{Check::Param} : std::vector<Check>{Check::Pointers});
+                     k.expect, true);
     r.model = [k](Model& m) {
       if (k.expect == 0) m.out<int>(0)[0] = k.specSize;
       return static_cast<PelStatus>(k.expect);
@@ -411,7 +415,7 @@ void AddGetSize(std::vector<Row>& rows) {
                        return peliFilterBorderGetSize({3, 40000}, {40000, 40000}, pelType32f, pelType32f, 4, c.p<int>(0),
                                                       c.p<int>(1));
                      },
-                     pelStatusSizeOverflow, {Check::Pointers, Check::Param});
+                     pelStatusSizeOverflow);
   big.model = [](Model& m) {
     m.out<int>(1)[0] = 0;
     return pelStatusSizeOverflow;
@@ -420,7 +424,6 @@ void AddGetSize(std::vector<Row>& rows) {
 }
 
 void AddInits(std::vector<Row>& rows) {
-  std::vector<uint8_t> block(4096);
   auto spec = [](Call& c, std::vector<uint8_t>& b) { return c.own(0, reinterpret_cast<PeliFilterBorderSpec*>(b.data())); };
   struct Case16 {
     PeliSize k;
@@ -436,8 +439,7 @@ void AddInits(std::vector<Row>& rows) {
                               std::vector<uint8_t> b(4096);
                               return peliFilterBorderInit_16s(c.p<Pel16s>(0), k.k, k.divisor, k.data, k.C, k.round, spec(c, b));
                             },
-                            static_cast<PelStatus>(k.expect),
-                            k.expect < 0 ? std::vector<Check>{Check::Pointers, Check::Param} : std::vector<Check>{Check::Pointers}));
+                            k.expect));
   struct CaseF {
     bool f64;
     int data, C, round, expect;
@@ -446,8 +448,6 @@ void AddInits(std::vector<Row>& rows) {
                       {false, pelType8u, 5, 1, -47},  {false, pelType8u, 1, 4, -213}, {true, pelType64f, 1, 17, 0},
                       {true, pelType32f, 1, 1, -59}, {true, pelType64f, 2, 1, -47},  {true, pelType64f, 1, 0, -213}};
   for (const CaseF& k : cf) {
-    const std::vector<Check> order =
-        k.expect < 0 ? std::vector<Check>{Check::Pointers, Check::Param} : std::vector<Check>{Check::Pointers};
     const std::string v = Tag("t", k.data) + Tag("s", k.expect);
     if (k.f64)
       rows.push_back(SetupRow("peliFilterBorderInit_64f", v, {Consts<Pel64f>(6)},
@@ -455,14 +455,14 @@ void AddInits(std::vector<Row>& rows) {
                                 std::vector<uint8_t> b(4096);
                                 return peliFilterBorderInit_64f(c.p<Pel64f>(0), {3, 2}, k.data, k.C, k.round, spec(c, b));
                               },
-                              static_cast<PelStatus>(k.expect), order));
+                              k.expect));
     else
       rows.push_back(SetupRow("peliFilterBorderInit_32f", v, {Consts<Pel32f>(6)},
                               [k, spec](Call& c) {
                                 std::vector<uint8_t> b(4096);
                                 return peliFilterBorderInit_32f(c.p<Pel32f>(0), {2, 3}, k.data, k.C, k.round, spec(c, b));
                               },
-                              static_cast<PelStatus>(k.expect), order));
+                              k.expect));
   }
   // SetMode: offsets only for unsigned data; a 64f spec takes offset 0 and returns.
   struct CaseM {
@@ -480,9 +480,7 @@ void AddInits(std::vector<Row>& rows) {
                               else peliFilterBorderInit_16s(ki, {3, 3}, 16, k.data, 1, 1, s);
                               return peliFilterBorderSetMode(pelHintAccurate, k.offset, c.own(0, s));
                             },
-                            static_cast<PelStatus>(k.expect),
-                            k.expect < 0 ? std::vector<Check>{Check::Pointers, Check::Param} : std::vector<Check>{Check::Pointers}));
-  (void)block;
+                            k.expect));
 }
 
 // ---- The table ------------------------------------------------------------------------
@@ -529,8 +527,6 @@ std::vector<Row> FilterRows() {
     AddFilter<Pel16s>(rows, PEL_NAMED(peliFilterBorder_16s_C1R), 1, {{3, 3, pelBorderMirror}, -3, 2});
   }
 
-  const RankFn<Pel8u> none8 = nullptr;
-  (void)none8;
 #define PEL_RANK_TYPE(t)                                                                                       \
   {                                                                                                            \
     std::vector<Mask> masks{{3, 3, pelBorderReplicate}, {5, 5, pelBorderConstant | pelBorderInMemLeft}};       \
@@ -642,8 +638,7 @@ std::vector<Row> FilterRows() {
       args[0].scratch = true;
       rows.push_back(SetupRow(k.name, std::to_string(k.mask.width) + Tag("t", k.type) + Tag("s", k.expect),
                               args, [k](Call& c) { return k.fn(k.roi, k.mask, k.type, k.C, c.p<int>(0)); },
-                              static_cast<PelStatus>(k.expect),
-                              k.expect < 0 ? std::vector<Check>{Check::Pointers, Check::Param} : std::vector<Check>{Check::Pointers}));
+                              k.expect));
     }
   }
   for (bool dilate : {true, false}) {
