@@ -256,6 +256,13 @@ void RunRowOn(const Row& row, const std::vector<Layout>& layouts, PeliSize roi, 
     model.args = &args;
     model.called = &images;
     wantStatus = row.model(model);
+  } else {
+    // A bad-parameter row fails at Param: results that an earlier check
+    // zeroes are zeros, everything else is untouched.
+    auto position = [&](Check c) { return std::find(row.order.begin(), row.order.end(), c) - row.order.begin(); };
+    for (size_t k = 0; k < args.size(); ++k)
+      if (args[k].zeroedAfter && args[k].count > 0 && position(Check::Param) > position(*args[k].zeroedAfter))
+        std::memset(want[k].bytesAt(0, 0), 0, size_t(args[k].count) * args[k].type.bytes);
   }
   for (size_t k = 0; k < args.size(); ++k) {
     if (!args[k].scratch || status < 0) continue;

@@ -1,0 +1,213 @@
+#include "filter/rank.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/border.h"
+#include "core/common.h"
+#include "core/exports.h"
+#include "core/spec.h"
+#include "filter/row_filter_kernels.h"
+#include "filter/window.h"
+
+namespace pel::filter {
+namespace {
+
+int64_t ElementBytes(int dataType) {
+  return dataType == pelType8u ? 1 : dataType == pelType32f ? 4 : 2;
+}
+
+bool TypeOf4(int dataType) {
+  return dataType == pelType8u || dataType == pelType16u || dataType == pelType16s || dataType == pelType32f;
+}
+
+// What every rank filter needs from the buffer besides its window: a row of
+// the full mask's reach (extremes' vertical pass, box column sums of eight
+// bytes a lane, or the median's three sorted columns), an output row for AC4
+// and the median's selection scratch.
+int64_t RankBufferBytes(int64_t W, PeliSize mask, int64_t elemBytes, int channels) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  const int64_t reach = (W + g.kw - 1) * channels;
+  return WindowBufferBytes(W, g, static_cast<int>(elemBytes * channels)) + static_cast<int64_t>(RoundUp64(reach * 16)) +
+         static_cast<int64_t>(RoundUp64(W * channels * elemBytes)) +
+         static_cast<int64_t>(RoundUp64(g.kw * g.kh * elemBytes)) + 64;
+}
+
+// Sizes far beyond what can be reported are refused before they are
+// computed in 64 bits, where a huge mask times a huge row would not fit.
+bool Oversized(int64_t W, PeliSize mask, int channels) {
+  const double bytes = (double(mask.height) + 2) * (double(W) + mask.width) * channels * 64 +
+                       double(mask.width) * mask.height * 8;
+  return bytes > 1e15;
+}
+
+PelStatus ReportSize(int64_t bytes, int* pBufferSize) {
+  if (bytes > kMaxReportedSize) return pelStatusSizeOverflow;
+  *pBufferSize = static_cast<int>(bytes);
+  return pelStatusOk;
+}
+
+}  // namespace
+
+// The scratch areas after the window (outside the anonymous namespace: the
+// exported templates' lambdas capture it).
+struct Scratch {
+  uint8_t* reach;
+  uint8_t* outRow;
+  uint8_t* select;
+};
+Scratch ScratchAfter(uint8_t* end, int64_t W, const MaskGeometry& g, int64_t elemBytes, int channels) {
+  Scratch s;
+  s.reach = end;
+  s.outRow = s.reach + RoundUp64((W + g.kw - 1) * channels * 16);
+  s.select = s.outRow + RoundUp64(W * channels * elemBytes);
+  return s;
+}
+
+namespace {
+
+// Filters every run of every output row with `row(rows, out, lanes,
+// scratch)`, the border pixel being `pixel`; AC4 rows go through a scratch
+// row whose colour lanes are then copied.
+template <class T, int C, int W, class F>
+void Filtered(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi, PeliSize mask, int border,
+              const T* pixel, Pel8u* pBuffer, F&& row) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel), pBuffer,
+                   static_cast<const void*>(pSrc) == pDst);
+  const Scratch s = ScratchAfter(window.End(), roi.width, g, sizeof(T), C);
+  RowWindow::Run runs[3];
+  for (int64_t y = 0; y < roi.height; ++y) {
+    T* d = Row(pDst, dstStep, y);
+    T* out = W == C ? d : reinterpret_cast<T*>(s.outRow);
+    const int n = window.Runs(y, runs);
+    for (int k = 0; k < n; ++k) row(runs[k].rows, out + runs[k].x0 * C, runs[k].count * C, s);
+    if constexpr (W != C)
+      for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d + x * C, out + x * C, sizeof(T) * W);
+  }
+}
+
+template <class T, int C>
+void FillPixel(T (&pixel)[4], T value) {
+  for (int c = 0; c < 4; ++c) pixel[c] = value;
+}
+
+}  // namespace
+
+PelStatus MedianGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
+                              int* pBufferSize) {
+  if (pBufferSize == nullptr) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize) || maskSize.width % 2 == 0 || maskSize.height % 2 == 0) return pelStatusBadMaskSize;
+  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
+  if (!TypeOf4(dataType) || (numChannels != 1 && dataType == pelType32f)) return pelStatusDataTypeError;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  return ReportSize(RankBufferBytes(roiSize.width, maskSize, ElementBytes(dataType), numChannels), pBufferSize);
+}
+
+PelStatus BoxGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
+                           int* pBufferSize) {
+  if (pBufferSize == nullptr) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize)) return pelStatusBadMaskSize;
+  if (!TypeOf4(dataType)) return pelStatusDataTypeError;
+  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  return ReportSize(RankBufferBytes(roiSize.width, maskSize, ElementBytes(dataType), numChannels), pBufferSize);
+}
+
+PelStatus ExtremeGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
+                               int* pBufferSize) {
+  return BoxGetBufferSize(roiSize, maskSize, dataType, numChannels, pBufferSize);
+}
+
+template <class T, int C, int W>
+PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
+                 PeliBorderType border, T borderValue, Pel8u* pBuffer) {
+  if (AnyNull(pSrc, pDst, pBuffer)) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize) || maskSize.width % 2 == 0 || maskSize.height % 2 == 0) return pelStatusBadMaskSize;
+  if (!BorderCodeAccepted(border, {pelBorderReplicate, pelBorderConstant})) return pelStatusBadBorderType;
+  if (maskSize.width == 1 && maskSize.height == 1) {
+    if (pSrc == pDst) return pelStatusOk;
+    for (int64_t y = 0; y < roiSize.height; ++y) {
+      const T* s = Row(pSrc, srcStep, y);
+      T* d = Row(pDst, dstStep, y);
+      for (int64_t x = 0; x < roiSize.width; ++x) std::memcpy(d + x * C, s + x * C, sizeof(T) * W);
+    }
+    return pelStatusOk;
+  }
+  T pixel[4];
+  FillPixel<T, C>(pixel, borderValue);
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);
+                    });
+  return pelStatusOk;
+}
+
+template <class T, int C, int W>
+PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
+              PeliBorderType border, const T* borderValue, Pel8u* pBuffer) {
+  if (AnyNull(pSrc, pDst, pBuffer)) return pelStatusNullPointer;
+  if (srcStep <= 0 || dstStep <= 0) return pelStatusBadStep;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize)) return pelStatusBadMaskSize;
+  if (!BorderCodeAccepted(border, {pelBorderReplicate, pelBorderMirror, pelBorderConstant}))
+    return pelStatusBadBorderType;
+  const bool constant = border != pelBorderInMem && (border & 0x0F) == pelBorderConstant;
+  if (constant && borderValue == nullptr) return pelStatusNullPointer;
+  T pixel[4] = {};
+  if (constant)
+    for (int c = 0; c < W; ++c) pixel[c] = borderValue[c];
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
+                    });
+  return pelStatusOk;
+}
+
+template <class T, int C, int W, bool kMax>
+PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
+                  PeliBorderType border, T borderValue, Pel8u* pBuffer) {
+  if (AnyNull(pSrc, pDst, pBuffer)) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize)) return pelStatusBadMaskSize;
+  if (!BorderCodeAccepted(border, {pelBorderReplicate, pelBorderMirror, pelBorderConstant}))
+    return pelStatusBadBorderType;
+  T pixel[4];
+  FillPixel<T, C>(pixel, borderValue);
+  Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
+                    [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
+                      ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);
+                    });
+  return pelStatusOk;
+}
+
+template <bool kMax>
+PelStatus Morph3x3(const Pel64f* pSrc, int srcStep, Pel64f* pDst, int dstStep, PeliSize roiSize) {
+  if (AnyNull(pSrc, pDst)) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  const int64_t row = int64_t{roiSize.width} * 8;
+  if (srcStep < row + 16 || dstStep < row) return pelStatusStepTooSmall;
+  // No buffer: the neighbours are in memory, and the vertical pass runs in
+  // pieces through a small array of its own.
+  constexpr int64_t kPiece = 256;
+  double tmp[kPiece + 2];
+  for (int64_t y = 0; y < roiSize.height; ++y) {
+    for (int64_t x = 0; x < roiSize.width; x += kPiece) {
+      const int64_t n = std::min<int64_t>(kPiece, roiSize.width - x);
+      const uint8_t* rows[3];
+      for (int i = 0; i < 3; ++i)
+        rows[i] = reinterpret_cast<const uint8_t*>(Row(pSrc, srcStep, y + i - 1) + x - 1);
+      ExtremeRow(Lane::F64, kMax, 1, 3, 3, rows, tmp, Row(pDst, dstStep, y) + x, n);
+    }
+  }
+  return pelStatusOk;
+}
+
+#define PEL_EXPORT PEL_INSTANTIATE_EXPORT
+#include "filter/rank_exports.inc"
+#undef PEL_EXPORT
+
+}  // namespace pel::filter

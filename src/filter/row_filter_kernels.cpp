@@ -1,0 +1,497 @@
+// Vector row kernels of the filters. Every lane of an output row is computed
+// on its own, in the scalar reference's order of operations (sums start at
+// zero and add taps row by row, left to right; no fused multiply-add), so
+// full-width vectors give the reference's bits on every target. Ends of rows
+// shorter than a vector run the scalar reference.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "filter/row_filter_kernels.cpp"
+#include "hwy/foreach_target.h"  // IWYU pragma: keep
+
+#include <algorithm>
+#include <utility>
+
+#include "filter/filter_scalar.h"
+#include "filter/median_network.h"
+#include "filter/row_filter_kernels.h"
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace pel::filter::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET == HWY_EMU128 || HWY_TARGET == HWY_SCALAR
+
+void CorrelateRowTarget(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { scalar::CorrelateRow(job, rows, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                      int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::ExtremeRow(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), 0, lanes);
+  });
+}
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
+                     void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), 0, lanes);
+  });
+}
+void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+                  int64_t lanes) {
+  VisitLane(lane, [&](auto t) { scalar::BoxRow(C, kw, kh, rows, colSums, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+
+#else
+
+template <class T>
+const T* At(const uint8_t* row, int64_t lane) {
+  return reinterpret_cast<const T*>(row) + lane;
+}
+
+// Elements of T widened to the 32-bit lanes of d (float lanes: converted).
+template <class T, class D>
+HWY_INLINE hn::Vec<D> LoadWide(D d, const T* p) {
+  using L = hn::TFromD<D>;
+  if constexpr (sizeof(T) == sizeof(L)) {
+    return hn::LoadU(d, reinterpret_cast<const L*>(p));
+  } else if constexpr (std::is_floating_point_v<L>) {
+    const hn::RebindToSigned<D> di;
+    return hn::ConvertTo(d, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, D>(), p)));
+  } else {
+    return hn::PromoteTo(d, hn::LoadU(hn::Rebind<T, D>(), p));
+  }
+}
+
+// Float to T by the rounding mode, saturated, as scalar::RoundSaturate.
+template <class T, class DF>
+HWY_INLINE void StoreRounded(DF df, hn::Vec<DF> v, int round, T* dst) {
+  if (round == 0) v = hn::Trunc(v);
+  else if (round == 1) v = hn::Round(v);
+  else v = hn::Trunc(hn::Add(v, hn::CopySign(hn::Set(df, 0.5f), v)));
+  v = hn::Min(hn::Max(v, hn::Set(df, static_cast<float>(std::numeric_limits<T>::min()))),
+              hn::Set(df, static_cast<float>(std::numeric_limits<T>::max())));
+  const hn::RebindToSigned<DF> di;
+  hn::StoreU(hn::DemoteTo(hn::Rebind<T, DF>(), hn::ConvertTo(di, v)), hn::Rebind<T, DF>(), dst);
+}
+
+// kU vectors of output from lane l: the sums run over the taps in the
+// reference's order, kU chunks side by side so that the additions of one
+// chunk do not wait for those of another.
+template <int kU, class T>
+HWY_INLINE void CorrelateBlock(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t l) {
+  const int kn = job.kw * job.kh;
+  if constexpr (std::is_same_v<T, double>) {
+    const hn::ScalableTag<double> d;
+    const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+    hn::Vec<decltype(d)> acc[kU];
+    for (int u = 0; u < kU; ++u) acc[u] = hn::Zero(d);
+    const double* k = job.revD + kn;
+    for (int i = 0; i < job.kh; ++i)
+      for (int j = 0; j < job.kw; ++j) {
+        const auto coef = hn::Set(d, *--k);
+        const double* p = At<double>(rows[i], l + j * job.C);
+        for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, hn::LoadU(d, p + u * N)));
+      }
+    for (int u = 0; u < kU; ++u) hn::StoreU(hn::Add(acc[u], hn::Set(d, job.offsetD)), d, dst + l + u * N);
+  } else if (job.intKernel) {
+    if constexpr (!std::is_floating_point_v<T>) {
+      const hn::ScalableTag<float> df;
+      const hn::ScalableTag<int32_t> di;
+      const int64_t N = static_cast<int64_t>(hn::Lanes(di));
+      hn::Vec<decltype(di)> acc[kU];
+      for (int u = 0; u < kU; ++u) acc[u] = hn::Set(di, job.offsetI);
+      const int16_t* k = job.revI + kn;
+      for (int i = 0; i < job.kh; ++i)
+        for (int j = 0; j < job.kw; ++j) {
+          const auto coef = hn::Set(di, *--k);
+          const T* p = At<T>(rows[i], l + j * job.C);
+          for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, LoadWide(di, p + u * N)));
+        }
+      const int n = job.shift;
+      const auto addend = hn::Set(di, n > 0 ? (1 << (n - 1)) : 0);
+      const auto one = hn::Set(di, 1);
+      for (int u = 0; u < kU; ++u) {
+        auto a = acc[u];
+        T* out = dst + l + u * N;
+        if (job.divMode == 2) {
+          StoreRounded(df, hn::Mul(hn::ConvertTo(df, a), hn::Set(df, job.scale)), job.round, out);
+          continue;
+        }
+        if (job.divMode == 1) {
+          const auto neg = hn::Lt(a, hn::Zero(di));
+          hn::Vec<decltype(di)> add;
+          if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
+          else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(a, n), one));
+          else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
+          a = hn::ShiftRightSame(hn::Add(a, add), n);
+        }
+        hn::StoreU(hn::DemoteTo(hn::Rebind<T, decltype(di)>(), a), hn::Rebind<T, decltype(di)>(), out);
+      }
+    }
+  } else {
+    const hn::ScalableTag<float> df;
+    const int64_t N = static_cast<int64_t>(hn::Lanes(df));
+    hn::Vec<decltype(df)> acc[kU];
+    for (int u = 0; u < kU; ++u) acc[u] = hn::Zero(df);
+    const float* k = job.revF + kn;
+    for (int i = 0; i < job.kh; ++i)
+      for (int j = 0; j < job.kw; ++j) {
+        const auto coef = hn::Set(df, *--k);
+        const T* p = At<T>(rows[i], l + j * job.C);
+        for (int u = 0; u < kU; ++u) acc[u] = hn::Add(acc[u], hn::Mul(coef, LoadWide(df, p + u * N)));
+      }
+    for (int u = 0; u < kU; ++u) {
+      const auto a = hn::Add(acc[u], hn::Set(df, job.offsetF));
+      if constexpr (std::is_same_v<T, float>) hn::StoreU(a, df, dst + l + u * N);
+      else StoreRounded(df, a, job.round, dst + l + u * N);
+    }
+  }
+}
+
+template <class T>
+void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
+  if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
+  int64_t l = 0;
+  for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
+  for (; l + N <= lanes; l += N) CorrelateBlock<1>(job, rows, dst, l);
+  // The last lanes again as one full vector: every lane is computed on its
+  // own from the rows, so rewriting the overlap gives the same values.
+  if (l < lanes) CorrelateBlock<1>(job, rows, dst, lanes - N);
+}
+
+void CorrelateRowTarget(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { Correlate(job, rows, static_cast<decltype(t)*>(dst), lanes); });
+}
+
+template <bool kMax, class T>
+void Extreme(int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, int64_t lanes) {
+  constexpr bool max = kMax;
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t reach = int64_t{kw - 1} * C;
+  // max/min with the operand order of scalar::MaxOf/MinOf; both are
+  // idempotent, so a last vector may overlap the one before it.
+  auto op = [](auto a, auto b) {
+    if constexpr (kMax) return hn::Max(a, b);
+    else return hn::Min(a, b);
+  };
+  // Pieces whose vertical extremes stay in the first-level cache.
+  const int64_t piece = N * std::max<int64_t>(1, 4096 / (N * static_cast<int64_t>(sizeof(T))));
+  int64_t base = 0;
+  for (; base + N <= lanes; base += piece) {
+    const int64_t len = std::min(piece, lanes - base);
+    const int64_t span = len + reach;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);
+      auto v = hn::LoadU(d, At<T>(rows[0], base + at));
+      for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], base + at)));
+      hn::StoreU(v, d, tmp + at);
+    }
+    for (int64_t l = 0; l < len; l += N) {
+      const int64_t at = std::min(l, len - N);
+      auto v = hn::LoadU(d, tmp + at);
+      for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + at + j * C));
+      hn::StoreU(v, d, dst + base + at);
+    }
+  }
+  if (base < lanes) scalar::ExtremeRow(max, C, kw, kh, rows, tmp, dst, base, lanes);
+}
+
+void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                      int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    if (max) Extreme<true>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+    else Extreme<false>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+  });
+}
+
+// Small medians: the selection network over the kw x kh taps of each lane,
+// unrolled at compile time for the common sizes so that the taps stay in
+// registers; other sizes walk the network's table.
+template <int kN, class V, size_t... I>
+HWY_INLINE void RunNetwork(V* v, std::index_sequence<I...>) {
+  constexpr MedianNetwork net = MedianNetworkOf<kN>();
+  (
+      [&] {
+        V& a = v[net.a[I]];
+        V& b = v[net.b[I]];
+        const V lo = hn::Min(a, b);
+        if constexpr ((net.use[I] & 2) != 0) b = hn::Max(a, b);
+        a = lo;
+      }(),
+      ...);
+}
+
+template <int kN, class T>
+int64_t MedianFixed(int C, int kw, int kh, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  constexpr int kOps = MedianNetworkOf<kN>().count;
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  using V = hn::Vec<decltype(d)>;
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
+    V v[kN];
+    for (int i = 0; i < kh; ++i)
+      for (int j = 0; j < kw; ++j) v[i * kw + j] = hn::LoadU(d, At<T>(rows[i], l + j * C));
+    RunNetwork<kN>(v, std::make_index_sequence<kOps>());
+    hn::StoreU(v[(kN - 1) / 2], d, dst + l);
+  }
+  return lanes;
+}
+
+template <class T>
+int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* dst, int64_t lanes) {
+  switch (kw * kh) {
+    case 3: return MedianFixed<3>(C, kw, kh, rows, dst, lanes);
+    case 5: return MedianFixed<5>(C, kw, kh, rows, dst, lanes);
+    case 9: return MedianFixed<9>(C, kw, kh, rows, dst, lanes);
+    case 15: return MedianFixed<15>(C, kw, kh, rows, dst, lanes);
+    case 25: return MedianFixed<25>(C, kw, kh, rows, dst, lanes);
+  }
+  MedianNetwork net;
+  BuildMedianNetwork(kw * kh, net);
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  hn::Vec<decltype(d)> v[MedianNetwork::kMaxWires];
+  int64_t l = 0;
+  for (; l + N <= lanes; l += N) {
+    for (int i = 0; i < kh; ++i)
+      for (int j = 0; j < kw; ++j) v[i * kw + j] = hn::LoadU(d, At<T>(rows[i], l + j * C));
+    for (int c = 0; c < net.count; ++c) {
+      auto& a = v[net.a[c]];
+      auto& b = v[net.b[c]];
+      const auto lo = hn::Min(a, b);
+      if (net.use[c] & 2) b = hn::Max(a, b);
+      a = lo;
+    }
+    hn::StoreU(v[(kw * kh - 1) / 2], d, dst + l);
+  }
+  return l;
+}
+
+// 3x3: each column of three is sorted once for the three outputs that share
+// it; the median of the nine is then the median of the largest column
+// minimum, the median of the column medians and the smallest column maximum.
+template <class T>
+int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  // Pieces of the row small enough for the sorted columns to stay in the
+  // first-level cache between the two passes.
+  if (lanes < N) return 0;
+  const int64_t piece =
+      std::min(lanes / N, std::max<int64_t>(1, 2048 / (N * static_cast<int64_t>(sizeof(T))))) * N;
+  T* lo = wide;
+  T* mid = wide + piece + 2 * C;
+  T* hi = mid + piece + 2 * C;
+  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  for (int64_t base = 0; base < lanes;) {
+    int64_t len = std::min(piece, lanes - base);
+    if (len < N) {  // a last piece of one vector overlapping the one before
+      base = lanes - N;
+      len = N;
+    }
+    const int64_t span = len + 2 * C;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
+      const auto a = hn::LoadU(d, At<T>(rows[0], base + at));
+      const auto b = hn::LoadU(d, At<T>(rows[1], base + at));
+      const auto c = hn::LoadU(d, At<T>(rows[2], base + at));
+      const auto ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
+      hn::StoreU(hn::Min(ab0, c), d, lo + at);
+      const auto t = hn::Max(ab0, c);
+      hn::StoreU(hn::Min(ab1, t), d, mid + at);
+      hn::StoreU(hn::Max(ab1, t), d, hi + at);
+    }
+    for (int64_t l = 0; l < len; l += N) {
+      const int64_t at = std::min(l, len - N);
+      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
+      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
+      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
+      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + base + at);
+    }
+    base += len;
+  }
+  return lanes;
+}
+
+// Larger 8-bit medians: the result is built bit by bit from the top; a bit
+// stays set when at most rank taps lie below the value so far with it set.
+// Counts fit 8-bit lanes for masks of up to 255 taps.
+int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint8_t> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const auto rank = hn::Set(d, static_cast<uint8_t>((kw * kh - 1) / 2));
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
+    auto result = hn::Zero(d);
+    for (int bit = 7; bit >= 0; --bit) {
+      const auto t = hn::Or(result, hn::Set(d, static_cast<uint8_t>(1u << bit)));
+      const auto below = hn::Sub(t, hn::Set(d, 1));  // x < t  <=>  min(x, t - 1) == x
+      auto count = hn::Zero(d);
+      for (int i = 0; i < kh; ++i)
+        for (int j = 0; j < kw; ++j) {
+          const auto x = hn::LoadU(d, At<uint8_t>(rows[i], l + j * C));
+          count = hn::Sub(count, hn::VecFromMask(d, hn::Eq(hn::Min(x, below), x)));
+        }
+      result = hn::IfThenElse(hn::Eq(hn::Min(count, rank), count), t, result);
+    }
+    hn::StoreU(result, d, dst + l);
+  }
+  return lanes;
+}
+
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch,
+                     void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    int64_t done = 0;
+    if constexpr (!std::is_same_v<T, double>) {
+      if (kw == 3 && kh == 3) done = Median3x3(C, rows, static_cast<T*>(wide), static_cast<T*>(dst), lanes);
+      else if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+      else if constexpr (std::is_same_v<T, uint8_t>) {
+        if (kw * kh <= 255) done = MedianByBits(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+      }
+    }
+    scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), done, lanes);
+  });
+}
+
+// 8-bit box with at most 257 taps: sums fit 16 bits; the rounded mean
+// floor((2s + N) / 2N) is exact in single precision from (2s + N + 1/2)
+// times the reciprocal, the error staying far below the distance 1/4N of
+// every such quotient from an integer.
+int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint16_t> d16;
+  const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
+  const int64_t wide = lanes + int64_t{kw - 1} * C;
+  int64_t l = 0;
+  for (; l + N16 <= wide; l += N16) {
+    auto s = hn::Zero(d16);
+    for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
+    hn::StoreU(s, d16, col + l);
+  }
+  for (; l < wide; ++l) {
+    unsigned s = 0;
+    for (int i = 0; i < kh; ++i) s += rows[i][l];
+    col[l] = static_cast<uint16_t>(s);
+  }
+  // Sums of up to 257 taps fit 16-bit lanes; the division widens them.
+  const hn::Half<decltype(d16)> dh16;
+  const hn::Rebind<uint32_t, decltype(dh16)> du;
+  const hn::RebindToSigned<decltype(du)> di;
+  const hn::Rebind<float, decltype(di)> df;
+  const hn::Rebind<uint8_t, decltype(di)> d8;
+  const int64_t NH = static_cast<int64_t>(hn::Lanes(di));
+  const int n = kw * kh;
+  const auto bias = hn::Set(di, n);
+  const auto half = hn::Set(df, 0.5f);
+  const auto recip = hn::Set(df, 1.0f / static_cast<float>(2 * n));
+  auto mean = [&](auto s16, uint8_t* out) {
+    const auto s = hn::BitCast(di, hn::PromoteTo(du, s16));
+    const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
+    hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
+  };
+  if (lanes < N16) return 0;
+  for (int64_t x = 0; x < lanes; x += N16) {
+    l = std::min(x, lanes - N16);  // the last vector may overlap the one before
+    auto s = hn::Zero(d16);
+    for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
+    mean(hn::LowerHalf(dh16, s), dst + l);
+    mean(hn::UpperHalf(dh16, s), dst + l + NH);
+  }
+  return lanes;
+}
+
+// 32f box: f64 column sums, then the kw sums left to right, as the reference.
+int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, float* dst, int64_t lanes) {
+  const hn::ScalableTag<double> d;
+  const hn::Rebind<float, decltype(d)> dh;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t wide = lanes + int64_t{kw - 1} * C;
+  int64_t l = 0;
+  for (; l + N <= wide; l += N) {
+    auto s = hn::Zero(d);
+    for (int i = 0; i < kh; ++i) s = hn::Add(s, hn::PromoteTo(d, hn::LoadU(dh, At<float>(rows[i], l))));
+    hn::StoreU(s, d, col + l);
+  }
+  for (; l < wide; ++l) {
+    double s = 0;
+    for (int i = 0; i < kh; ++i) s = s + static_cast<double>(scalar::Load<float>(rows[i], l));
+    col[l] = s;
+  }
+  const auto n = hn::Set(d, static_cast<double>(int64_t{kw} * kh));
+  if (lanes < N) return 0;
+  for (int64_t x = 0; x < lanes; x += N) {
+    l = std::min(x, lanes - N);  // the last vector may overlap the one before
+    auto s = hn::Zero(d);
+    for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d, col + l + j * C));
+    hn::StoreU(hn::DemoteTo(dh, hn::Div(s, n)), dh, dst + l);
+  }
+  return lanes;
+}
+
+void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+                  int64_t lanes) {
+  if (lane == Lane::U8 && int64_t{kw} * kh <= 257) {
+    auto* d = static_cast<uint8_t*>(dst);
+    auto* col = static_cast<uint16_t*>(colSums);
+    const int64_t done = Box8(C, kw, kh, rows, col, d, lanes);
+    const int n = kw * kh;
+    for (int64_t l = done; l < lanes; ++l) {
+      int64_t s = 0;
+      for (int j = 0; j < kw; ++j) s += col[l + j * C];
+      d[l] = scalar::RoundedMean<uint8_t>(s, n);
+    }
+    return;
+  }
+  if (lane == Lane::F32) {
+    auto* d = static_cast<float*>(dst);
+    auto* col = static_cast<double*>(colSums);
+    const int64_t done = Box32f(C, kw, kh, rows, col, d, lanes);
+    for (int64_t l = done; l < lanes; ++l) {
+      double s = 0;
+      for (int j = 0; j < kw; ++j) s = s + col[l + j * C];
+      d[l] = static_cast<float>(s / static_cast<double>(int64_t{kw} * kh));
+    }
+    return;
+  }
+  VisitLane(lane, [&](auto t) { scalar::BoxRow(C, kw, kh, rows, colSums, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+
+#endif
+
+}  // namespace pel::filter::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace pel::filter {
+HWY_EXPORT(CorrelateRowTarget);
+HWY_EXPORT(ExtremeRowTarget);
+HWY_EXPORT(MedianRowTarget);
+HWY_EXPORT(BoxRowTarget);
+
+void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(CorrelateRowTarget)(job, rows, dst, lanes);
+}
+void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(ExtremeRowTarget)(lane, max, C, kw, kh, rows, tmp, dst, lanes);
+}
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
+               int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, wide, scratch, dst, lanes);
+}
+void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+            int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
+}
+}  // namespace pel::filter
+#endif

@@ -1,0 +1,70 @@
+// Row kernels of the filters, dispatched to the best instruction set; the
+// baseline runs the scalar references (filter_scalar.h). Each takes the
+// mask's rows of the extended source (RowWindow) and writes one output row
+// of `lanes` = roiW x channels elements; element type and channel count are
+// run-time arguments so that one dispatch table serves every export.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+namespace pel::filter {
+
+enum class Lane { U8, S16, U16, F32, F64 };
+
+template <class T>
+constexpr Lane LaneOf() {
+  if constexpr (std::is_same_v<T, uint8_t>) return Lane::U8;
+  else if constexpr (std::is_same_v<T, int16_t>) return Lane::S16;
+  else if constexpr (std::is_same_v<T, uint16_t>) return Lane::U16;
+  else if constexpr (std::is_same_v<T, float>) return Lane::F32;
+  else return Lane::F64;
+}
+
+// f(T{}) for the element type of a lane code.
+template <class F>
+void VisitLane(Lane lane, F&& f) {
+  switch (lane) {
+    case Lane::U8: return f(uint8_t{});
+    case Lane::S16: return f(int16_t{});
+    case Lane::U16: return f(uint16_t{});
+    case Lane::F32: return f(float{});
+    case Lane::F64: return f(double{});
+  }
+}
+
+// One general-filter call, from its spec. Coefficient (i, j) of the caller's
+// kernel is rev[kw x kh - 1 - (i x kw + j)] (the spec keeps it reversed).
+struct CorrelateJob {
+  Lane lane;
+  int C;
+  int kw, kh;
+  bool intKernel;        // 16s coefficients, 32-bit integer sums
+  const int16_t* revI;
+  const float* revF;
+  const double* revD;
+  int divMode;           // integer kernels: 0 none, 1 shift, 2 reciprocal
+  int shift;
+  float scale;           // reciprocal of the divisor (mode 2)
+  int32_t offsetI;       // offset x divisor, added to integer sums
+  float offsetF;
+  double offsetD;
+  int round;             // 0 toward zero, 1 nearest-even, 2 halves away from zero
+};
+
+void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes);
+
+// Minimum or maximum over kw x kh; tmp holds lanes + (kw - 1) x C elements.
+void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
+                int64_t lanes);
+
+// Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
+// elements, scratch kw x kh.
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
+               int64_t lanes);
+
+// Box mean over kw x kh; colSums holds lanes + (kw - 1) x C eight-byte sums.
+void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
+            int64_t lanes);
+
+}  // namespace pel::filter

@@ -1,0 +1,157 @@
+#include "filter/window.h"
+
+#include "core/common.h"
+#include "core/spec.h"
+
+namespace pel::filter {
+
+using datamove::BorderKind;
+using datamove::BorderRule;
+
+int64_t WindowRowBytes(int64_t roiW, const MaskGeometry& g, int pixelBytes) {
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((roiW + g.kw - 1) * pixelBytes)));
+}
+
+namespace {
+
+// Strips of the left and right edges: the outputs [0, ax) reach columns
+// [-ax, kw - 1 - ax), the outputs [W - right, W) columns [W - right - ax, W + right).
+int64_t LeftStripBytes(const MaskGeometry& g, int pixelBytes) {
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((g.ax + g.kw - 1) * pixelBytes)));
+}
+int64_t RightStripBytes(const MaskGeometry& g, int pixelBytes) {
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((2 * g.kw - 2 - g.ax) * pixelBytes)));
+}
+int64_t PointerBytes(const MaskGeometry& g) {
+  const int64_t slots = g.kh + 1;
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>(2 * slots * 8 + 4 * g.kh * 8)));
+}
+
+}  // namespace
+
+int64_t WindowBufferBytes(int64_t roiW, const MaskGeometry& g, int pixelBytes) {
+  const int64_t slots = g.kh + 1;
+  return 64 + slots * (WindowRowBytes(roiW, g, pixelBytes) + LeftStripBytes(g, pixelBytes) +
+                       RightStripBytes(g, pixelBytes)) +
+         PointerBytes(g);
+}
+
+BorderRule RuleOf(int code, const void* value) {
+  BorderRule rule;
+  const Border b = SplitBorder(code);
+  rule.inMemory = code == pelBorderInMem ? pelBorderInMem : b.inMemory;
+  rule.kind = b.kind == pelBorderMirror     ? BorderKind::Mirror
+              : b.kind == pelBorderConstant ? BorderKind::Constant
+                                            : BorderKind::Replicate;
+  rule.value = value;
+  return rule;
+}
+
+RowWindow::RowWindow(const void* src, ptrdiff_t srcStep, int64_t roiW, int64_t roiH, const MaskGeometry& g,
+                     datamove::PixelBytes px, const BorderRule& rule, uint8_t* buffer, bool forceCopy)
+    : src_{src, srcStep, roiW, roiH}, rule_(rule), px_(px), g_(g) {
+  // A side the mask never reaches needs no border, as if it were in memory.
+  if (g.ax == 0) rule_.inMemory |= pelBorderInMemLeft;
+  if (g.kw - g.ax - 1 == 0) rule_.inMemory |= pelBorderInMemRight;
+  if (g.ay == 0) rule_.inMemory |= pelBorderInMemTop;
+  if (g.kh - g.ay - 1 == 0) rule_.inMemory |= pelBorderInMemBottom;
+  rowsDirect_ = (rule_.inMemory & (pelBorderInMemLeft | pelBorderInMemRight)) ==
+                    (pelBorderInMemLeft | pelBorderInMemRight) &&
+                !forceCopy;
+  rowBytes_ = WindowRowBytes(roiW, g, px.bytes);
+  leftBytes_ = LeftStripBytes(g, px.bytes);
+  rightBytes_ = RightStripBytes(g, px.bytes);
+  const int64_t slots = g.kh + 1;
+  ring_ = AlignUp64(buffer);
+  strips_ = ring_ + slots * rowBytes_;
+  ringRow_ = reinterpret_cast<int64_t*>(strips_ + slots * (leftBytes_ + rightBytes_));
+  stripRow_ = ringRow_ + slots;
+  rows_ = reinterpret_cast<const uint8_t**>(stripRow_ + slots);
+  runRows_ = rows_ + g.kh;
+  end_ = reinterpret_cast<uint8_t*>(ringRow_) + PointerBytes(g);
+  for (int64_t s = 0; s < slots; ++s) ringRow_[s] = stripRow_[s] = INT64_MIN;
+  // The interior: outputs whose reach stays inside the ROI or runs onto an
+  // in-memory side.
+  const int64_t right = g.kw - g.ax - 1;
+  interior0_ = (rule_.inMemory & pelBorderInMemLeft) ? 0 : g.ax;
+  interior1_ = (rule_.inMemory & pelBorderInMemRight) ? roiW : roiW - right;
+  split_ = !rowsDirect_ && !forceCopy && interior1_ > interior0_;
+}
+
+int RowWindow::Runs(int64_t y, Run (&runs)[3]) {
+  if (!split_) {
+    runs[0] = {Rows(y), 0, src_.width};
+    return 1;
+  }
+  const int64_t slots = g_.kh + 1;
+  const uint8_t** left = runRows_;
+  const uint8_t** mid = runRows_ + g_.kh;
+  const uint8_t** right = runRows_ + 2 * g_.kh;
+  const int64_t rightX0 = interior1_;
+  for (int64_t i = 0; i < g_.kh; ++i) {
+    const int64_t r = y - g_.ay + i;
+    const int64_t slot = ((r % slots) + slots) % slots;
+    if (!InMemory(r)) {
+      // A synthesised row: built whole, once, and shared by the three runs.
+      uint8_t* row = ring_ + slot * rowBytes_;
+      if (ringRow_[slot] != r) {
+        datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, src_.width + g_.kw - 1, 1}, row, rowBytes_);
+        ringRow_[slot] = r;
+      }
+      left[i] = row;
+      mid[i] = row + interior0_ * px_.bytes;
+      right[i] = row + rightX0 * px_.bytes;
+      continue;
+    }
+    uint8_t* ls = strips_ + slot * (leftBytes_ + rightBytes_);
+    uint8_t* rs = ls + leftBytes_;
+    if (stripRow_[slot] != r) {
+      if (interior0_ > 0) datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, g_.ax + g_.kw - 1, 1}, ls, leftBytes_);
+      if (interior1_ < src_.width)
+        datamove::BuildBorderWindow(src_, rule_, px_, {rightX0 - g_.ax, r, src_.width - rightX0 + g_.kw - 1, 1}, rs,
+                                    rightBytes_);
+      stripRow_[slot] = r;
+    }
+    left[i] = ls;
+    mid[i] = SourceRow(r) + interior0_ * px_.bytes;
+    right[i] = rs;
+  }
+  int n = 0;
+  if (interior0_ > 0) runs[n++] = {left, 0, interior0_};
+  runs[n++] = {mid, interior0_, interior1_ - interior0_};
+  if (interior1_ < src_.width) runs[n++] = {right, interior1_, src_.width - interior1_};
+  return n;
+}
+
+bool RowWindow::InMemory(int64_t r) const {
+  if (r < 0) return (rule_.inMemory & pelBorderInMemTop) != 0;
+  if (r >= src_.height) return (rule_.inMemory & pelBorderInMemBottom) != 0;
+  return true;
+}
+
+const uint8_t* RowWindow::SourceRow(int64_t r) const {
+  const auto* row = Row(static_cast<const uint8_t*>(src_.pixels), src_.step, static_cast<ptrdiff_t>(r));
+  return row - g_.ax * px_.bytes;
+}
+
+const uint8_t* const* RowWindow::Rows(int64_t y) {
+  const int64_t slots = g_.kh + 1;
+  leaving_ = y > 0 ? rows_[0] : nullptr;
+  for (int64_t i = 0; i < g_.kh; ++i) {
+    const int64_t r = y - g_.ay + i;
+    if (rowsDirect_ && InMemory(r)) {
+      rows_[i] = SourceRow(r);
+      continue;
+    }
+    const int64_t slot = ((r % slots) + slots) % slots;
+    uint8_t* row = ring_ + slot * rowBytes_;
+    if (ringRow_[slot] != r) {
+      datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, src_.width + g_.kw - 1, 1}, row, rowBytes_);
+      ringRow_[slot] = r;
+    }
+    rows_[i] = row;
+  }
+  return rows_;
+}
+
+}  // namespace pel::filter
