@@ -152,7 +152,7 @@ T RoundQuotient(float q, int mode) {
   if (mode == 0) {
     r = std::trunc(q);
   } else if (mode == 1) {
-    r = std::nearbyint(q);  // the walkers set round-to-nearest for the call
+    r = static_cast<float>(RoundHalfEven(q));  // ties to even in every rounding mode
   } else {
     const float half = std::copysign(0.5f, q);
     r = std::trunc(q + half);

@@ -53,7 +53,7 @@ inline double RoundHalfEven(double v) {
 // 1 to nearest with ties to even, anything else halves away from zero.
 inline double RoundByMode(double v, int mode) {
   if (mode == 0) return std::trunc(v);
-  if (mode == 1) return std::nearbyint(v);  // the default rounding: ties to even
+  if (mode == 1) return RoundHalfEven(v);
   return std::trunc(v + (v < 0 ? -0.5 : 0.5));
 }
 
