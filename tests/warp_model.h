@@ -62,13 +62,16 @@ template <class T>
 bool Expected(const Scene& s, peltest::View<T>& src, int C, int x, int y, T* out) {
   const double X = x + s.offX, Y = y + s.offY;
   const double(*b)[3] = s.back;
-  double sx = b[0][0] * X + (b[0][1] * Y + b[0][2]), sy = b[1][0] * X + (b[1][1] * Y + b[1][2]);
+  int64_t qx, qy;
   if (s.perspective) {
     const double w = b[2][0] * X + (b[2][1] * Y + b[2][2]);
-    sx = w > 0 ? sx / w : -1e300;
-    sy = w > 0 ? sy / w : -1e300;
+    qx = Quantize(w > 0 ? (b[0][0] * X + (b[0][1] * Y + b[0][2])) / w : -1e300);
+    qy = Quantize(w > 0 ? (b[1][0] * X + (b[1][1] * Y + b[1][2])) / w : -1e300);
+  } else {  // column and row terms rounded apart
+    const int64_t far = int64_t(1) << 40;
+    qx = std::clamp(Quantize(b[0][0] * X) + Quantize(b[0][1] * Y + b[0][2]), -far, far);
+    qy = std::clamp(Quantize(b[1][0] * X) + Quantize(b[1][1] * Y + b[1][2]), -far, far);
   }
-  const int64_t qx = Quantize(sx), qy = Quantize(sy);
   int64_t ix[4], iy[4];
   double wx[4], wy[4];
   int n;

@@ -22,7 +22,7 @@ using namespace warpmodel;
 // at (2, 1) of it, the source about as large.
 struct Variant {
   const char* name;
-  int matrix;  // 0 rotation, 1 shear, 2 scale by 2 and 1/2 (direction 0), 3 perspective
+  int matrix;  // 0 rotation, 1 shear, 2 scale by 2 and 1/2 (direction 0), 3 perspective, 4 zoom out
   int border;
   bool past = false;  // the destination ends inside the tile: cut, 48
 };
@@ -56,6 +56,10 @@ void Matrices(const Variant& v, const Set& s, double given[3][3], double back[3]
     std::memcpy(given, g, sizeof g), std::memcpy(back, bk, sizeof bk);
     *direction = 0;
     return;
+  } else if (v.matrix == 4) {  // the source small inside the destination: every edge of it crossed
+    const double a = 1.5 * std::cos(0.12), b = 1.5 * std::sin(0.12);
+    m[0][0] = a, m[0][1] = -b, m[0][2] = cxs - a * cxd + b * cyd;
+    m[1][0] = b, m[1][1] = a, m[1][2] = cys - b * cxd - a * cyd;
   } else {
     m[0][0] = 1.05, m[0][1] = 0.1, m[0][2] = -1.5, m[1][0] = 0.05, m[1][1] = 0.98, m[1][2] = 0.7;
     m[2][0] = 0.004, m[2][1] = -0.003, m[2][2] = 1;
@@ -180,6 +184,7 @@ const Variant kScaleTransparent{"scaleTransparent", 2, 7};
 const Variant kRotMemory{"rotMemory", 0, pelBorderInMem};
 const Variant kShearSides{"shearSides", 1, pelBorderConstant | pelBorderInMemLeft | pelBorderInMemTop};
 const Variant kRotConstantPast{"rotConstantPast", 0, pelBorderConstant, true};
+const Variant kZoomConstant{"zoomConstant", 4, pelBorderConstant};
 const Variant kPerspConstant{"perspConstant", 3, pelBorderConstant};
 const Variant kPerspReplicate{"perspReplicate", 3, pelBorderReplicate | pelBorderInMemRight | pelBorderInMemBottom};
 const Variant kPerspTransparent{"perspTransparent", 3, 7};
@@ -193,7 +198,7 @@ void AddType(std::vector<Row>& rows, const std::string& token, const std::string
   for (int k = 0; k < 3; ++k) {
     const std::string a = std::string("peliWarpAffine") + methods[k] + "_" + token + "_" + layout;
     const std::string p = std::string("peliWarpPerspective") + methods[k] + "_" + token + "_" + layout;
-    std::vector<Variant> vs = hot ? std::vector<Variant>{kRotReplicate, kShearConstant, kScaleTransparent, kRotMemory, kShearSides}
+    std::vector<Variant> vs = hot ? std::vector<Variant>{kRotReplicate, kShearConstant, kScaleTransparent, kRotMemory, kShearSides, kZoomConstant}
                                   : std::vector<Variant>{kRotReplicate, kShearConstant};
     for (const Variant& v : vs) AddProcessing<T>(rows, a, C, codes[k], affine[k], nullptr, v);
     AddProcessing<T>(rows, a + "_L", C, codes[k], nullptr, affineL[k], hot ? kRotConstantPast : kScaleTransparent);

@@ -1,7 +1,6 @@
 // Row kernels of the warps, dispatched to the best instruction set at run
-// time. A row is two passes over the tile row: the coordinates of every
-// pixel into the work buffer, then the pixels, on vectors where all of a
-// pixel's taps lie well inside the source and one at a time elsewhere.
+// time. 8u and 32f nearest and linear go a block of pixels at a time with
+// the coordinates in registers; the rest goes through the reference.
 #pragma once
 
 #include <cstddef>
@@ -18,6 +17,7 @@ struct WarpFrame {
   int64_t srcWidth, srcHeight;
   int channels;
   int elem;    // WarpElem
+  int elemBytes;
   int method;  // 1 nearest, 2 linear, 6 cubic
   bool perspective;
   // 1 clamp to the readable region (replicate, and every side of 240),
@@ -31,9 +31,15 @@ struct WarpFrame {
   double back[3][3];
   // The source's byte offsets fit 32-bit gathers (the vector kernels need it).
   bool offsets32;
+  // Affine: the column terms of the tile's columns (from column columnsX0),
+  // or null when they do not fit 30 bits.
+  const int32_t* columnX;
+  const int32_t* columnY;
+  int64_t columnsX0;
 };
 
-// The work buffer's four arrays for one tile row.
+// Coordinates of a run of pixels: source column and row, and their
+// fractions in 1/1024 (0 for nearest).
 struct WarpCoords {
   int32_t* xi;
   int32_t* yi;
@@ -42,6 +48,6 @@ struct WarpCoords {
 };
 
 // Pixels x0 .. x0 + n - 1 of destination row y into dstRow.
-void WarpRow(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow, const WarpCoords& c);
+void WarpRow(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow);
 
 }  // namespace pel::geometry

@@ -13,6 +13,7 @@
 #include "core/spec.h"
 #include "geometry/geometry_frame.h"
 #include "geometry/row_warp_kernels.h"
+#include "geometry/warp_scalar.h"
 #include "geometry/warp_spec.h"
 
 namespace pel::geometry {
@@ -55,6 +56,7 @@ WarpFrame MakeFrame(const WarpSpec& s, const T* pSrc, ptrdiff_t srcStep) {
   f.srcWidth = s.srcWidth, f.srcHeight = s.srcHeight;
   f.channels = C;
   f.elem = s.elem;
+  f.elemBytes = int(sizeof(T));
   f.method = s.interpolation;
   f.perspective = s.kind == kWarpPerspective;
   const Border b = SplitBorder(s.border);
@@ -95,7 +97,7 @@ PelStatus Process(const T* pSrc, Step srcStep, T* pDst, Step dstStep, Point offs
   const bool adjusted = t.width < int64_t(size.width) || t.height < int64_t(size.height);
   if (s.status != pelStatusOk) return s.status;
   if (!BorderCodeAccepted(s.border, {pelBorderReplicate, pelBorderConstant, 7})) return pelStatusBadBorderType;
-  const WarpFrame f = MakeFrame<T, C>(s, pSrc, ptrdiff_t(srcStep));
+  WarpFrame f = MakeFrame<T, C>(s, pSrc, ptrdiff_t(srcStep));
   const bool constant = s.border != pelBorderInMem && SplitBorder(s.border).kind == pelBorderConstant;
   if (constant && s.fillDone == 0) {
     const T* value = reinterpret_cast<const T*>(f.borderPixel);
@@ -104,10 +106,15 @@ PelStatus Process(const T* pSrc, Step srcStep, T* pDst, Step dstStep, Point offs
       for (int64_t x = 0; x < t.width; ++x) std::memcpy(d + x * C, value, C * sizeof(T));
     }
   }
-  auto* words = reinterpret_cast<int32_t*>(AlignUp64(pBuffer));
-  const WarpCoords c{words, words + t.width, words + 2 * t.width, words + 3 * t.width};
+  if (!kPerspective) {
+    // The affine column terms, once for all rows of the tile.
+    auto* words = reinterpret_cast<int32_t*>(AlignUp64(pBuffer));
+    if (scalar::ColumnTerms(f, t.x, t.width, words, words + t.width)) {
+      f.columnX = words, f.columnY = words + t.width, f.columnsX0 = t.x;
+    }
+  }
   for (int64_t y = 0; y < t.height; ++y)
-    WarpRow(f, t.y + y, t.x, t.width, reinterpret_cast<uint8_t*>(Row(pDst, ptrdiff_t(dstStep), ptrdiff_t(y))), c);
+    WarpRow(f, t.y + y, t.x, t.width, reinterpret_cast<uint8_t*>(Row(pDst, ptrdiff_t(dstStep), ptrdiff_t(y))));
   return adjusted ? pelStatusAdjusted : pelStatusOk;
 }
 

@@ -2,15 +2,19 @@
 // It defines the results; the vector kernels reproduce its bytes.
 //
 // A destination pixel (x, y) (absolute, integer coordinates at pixel
-// centres) goes back through the spec's matrix B:
-//   sx = B00 x + (B01 y + B02), sy likewise; for perspective both are divided
-//   by w = B20 x + (B21 y + B22), and a pixel with w <= 0 has no source
-//   point (it is read as lying far outside).
-// Each product and sum is one double rounding, so a pixel's coordinates
-// depend on its position alone, not on the tile it is computed in. They are
-// then held to [-2^30, 2^30] (NaN to -2^30) and rounded to 1/1024 pixel:
-//   X = floor(sx 1024 + 0.5), xi = floor(X / 1024), fx = X - 1024 xi.
-// Nearest reads pixel floor(X / 1024 + 0.5).
+// centres) goes back through the spec's matrix B. Positions are fixed point,
+// 1/1024 pixel, each double first held to [-2^30, 2^30] (NaN to -2^30):
+//   Q(v) = floor(v 1024 + 0.5).
+// Affine: the column and row terms are rounded apart and added,
+//   X = Q(B00 x) + Q(B01 y + B02), Y likewise,
+// so a row needs one integer add a pixel (the column terms are a table made
+// once a call) and a pixel depends on its position alone, not on the tile.
+// Perspective: sx = B00 x + (B01 y + B02), sy likewise, both divided by
+// w = B20 x + (B21 y + B22), each product, sum and quotient one double
+// rounding; X = Q(sx / w); a pixel with w <= 0 has no source point (it is
+// read as lying far outside).
+// Then xi = floor(X / 1024), fx = X - 1024 xi; nearest reads pixel
+// floor((X + 512) / 1024).
 #pragma once
 
 #include <algorithm>
@@ -28,37 +32,58 @@ namespace pel::geometry::scalar {
 constexpr double kFar = 1073741824.0;  // 2^30 pixels: beyond any source
 constexpr int kFracBits = 10;
 constexpr int kOne = 1 << kFracBits;
+constexpr int64_t kFarFixed = int64_t(1) << 40;  // kFar in fixed point
 
 inline double HoldCoordinate(double s) { return s > kFar ? kFar : (s >= -kFar ? s : -kFar); }
+
+inline int64_t Fixed(double s) { return int64_t(std::floor(HoldCoordinate(s) * kOne + 0.5)); }
+
+// The affine column terms Q(B00 x), Q(B10 x) of columns x0 .. x0 + n - 1
+// into tx and ty; false when one needs more than 30 bits (the vector kernels
+// then leave the call to the reference).
+inline bool ColumnTerms(const WarpFrame& f, int64_t x0, int64_t n, int32_t* tx, int32_t* ty) {
+  constexpr int64_t kLimit = int64_t(1) << 30;
+  bool fits = true;
+  for (int64_t i = 0; i < n; ++i) {
+    const double xd = double(x0 + i);
+    const int64_t a = Fixed(f.back[0][0] * xd), b = Fixed(f.back[1][0] * xd);
+    fits = fits && a > -kLimit && a < kLimit && b > -kLimit && b < kLimit;
+    tx[i] = int32_t(std::clamp(a, -kLimit, kLimit));
+    ty[i] = int32_t(std::clamp(b, -kLimit, kLimit));
+  }
+  return fits;
+}
+
+// The affine row terms Q(B01 y + B02), Q(B11 y + B12).
+inline int64_t RowTermX(const WarpFrame& f, int64_t y) { return Fixed(f.back[0][1] * double(y) + f.back[0][2]); }
+inline int64_t RowTermY(const WarpFrame& f, int64_t y) { return Fixed(f.back[1][1] * double(y) + f.back[1][2]); }
 
 // Coordinates of pixels x0 .. x0 + n - 1 of row y.
 inline void Coordinates(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, const WarpCoords& out) {
   const double(*b)[3] = f.back;
   const double yd = double(y);
   const double rowX = b[0][1] * yd + b[0][2], rowY = b[1][1] * yd + b[1][2], rowW = b[2][1] * yd + b[2][2];
+  const int64_t termX = Fixed(rowX), termY = Fixed(rowY);
   for (int64_t i = 0; i < n; ++i) {
     const double xd = double(x0 + i);
-    double sx = b[0][0] * xd + rowX, sy = b[1][0] * xd + rowY;
+    int64_t X, Y;
     if (f.perspective) {
       const double w = b[2][0] * xd + rowW;
-      if (w > 0) {
-        sx = sx / w;
-        sy = sy / w;
-      } else {
-        sx = sy = -kFar;
-      }
+      X = w > 0 ? Fixed((b[0][0] * xd + rowX) / w) : Fixed(-kFar);
+      Y = w > 0 ? Fixed((b[1][0] * xd + rowY) / w) : Fixed(-kFar);
+    } else {
+      X = std::clamp(Fixed(b[0][0] * xd) + termX, -kFarFixed, kFarFixed);
+      Y = std::clamp(Fixed(b[1][0] * xd) + termY, -kFarFixed, kFarFixed);
     }
-    const double X = std::floor(HoldCoordinate(sx) * kOne + 0.5), Y = std::floor(HoldCoordinate(sy) * kOne + 0.5);
     if (f.method == pelInterpolationNearest) {
-      out.xi[i] = int32_t(std::floor(X * (1.0 / kOne) + 0.5));
-      out.yi[i] = int32_t(std::floor(Y * (1.0 / kOne) + 0.5));
+      out.xi[i] = int32_t((X + kOne / 2) >> kFracBits);
+      out.yi[i] = int32_t((Y + kOne / 2) >> kFracBits);
       out.fx[i] = out.fy[i] = 0;
     } else {
-      const double xi = std::floor(X * (1.0 / kOne)), yi = std::floor(Y * (1.0 / kOne));
-      out.xi[i] = int32_t(xi);
-      out.yi[i] = int32_t(yi);
-      out.fx[i] = int32_t(X - xi * kOne);
-      out.fy[i] = int32_t(Y - yi * kOne);
+      out.xi[i] = int32_t(X >> kFracBits);
+      out.yi[i] = int32_t(Y >> kFracBits);
+      out.fx[i] = int32_t(X & (kOne - 1));
+      out.fy[i] = int32_t(Y & (kOne - 1));
     }
   }
 }
@@ -198,9 +223,18 @@ inline void Pixels(const WarpFrame& f, const WarpCoords& c, int64_t a, int64_t b
   }
 }
 
-inline void Row(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow, const WarpCoords& c) {
-  Coordinates(f, y, x0, n, c);
-  Pixels(f, c, 0, n, dstRow);
+// Pixels x0 .. x0 + n - 1 of row y, a chunk at a time through small
+// coordinate arrays.
+inline void Row(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow) {
+  constexpr int64_t kChunk = 64;
+  int32_t w[4][kChunk];
+  const WarpCoords c{w[0], w[1], w[2], w[3]};
+  const int64_t pixelBytes = int64_t(f.channels) * int64_t(f.elemBytes);
+  for (int64_t i = 0; i < n; i += kChunk) {
+    const int64_t m = std::min(kChunk, n - i);
+    Coordinates(f, y, x0 + i, m, c);
+    Pixels(f, c, 0, m, dstRow + i * pixelBytes);
+  }
 }
 
 }  // namespace pel::geometry::scalar
