@@ -65,8 +65,9 @@ bool Expected(const Scene& s, peltest::View<T>& src, int C, int x, int y, T* out
   int64_t qx, qy;
   if (s.perspective) {
     const double w = b[2][0] * X + (b[2][1] * Y + b[2][2]);
-    qx = Quantize(w > 0 ? (b[0][0] * X + (b[0][1] * Y + b[0][2])) / w : -1e300);
-    qy = Quantize(w > 0 ? (b[1][0] * X + (b[1][1] * Y + b[1][2])) / w : -1e300);
+    const double k = 1024 / w;  // one division for both: the scaled position is rounded
+    qx = Quantize(w > 0 ? (b[0][0] * X + (b[0][1] * Y + b[0][2])) * k / 1024 : -1e300);
+    qy = Quantize(w > 0 ? (b[1][0] * X + (b[1][1] * Y + b[1][2])) * k / 1024 : -1e300);
   } else {  // column and row terms rounded apart
     const int64_t far = int64_t(1) << 40;
     qx = std::clamp(Quantize(b[0][0] * X) + Quantize(b[0][1] * Y + b[0][2]), -far, far);

@@ -103,12 +103,13 @@ class RowMap {
     const hn::Rebind<int32_t, DD> dh;
     const auto w = hn::Add(hn::Mul(b20_, xd), rowW_);
     const auto front = hn::Gt(w, hn::Zero(dd));
-    const auto lim = hn::Set(dd, kNear), one = hn::Set(dd, double(kOne)), half = hn::Set(dd, 0.5);
+    const auto k = hn::Div(hn::Set(dd, double(kOne)), w);
+    const auto lim = hn::Set(dd, kNear * kOne), half = hn::Set(dd, 0.5);
     // NaN fails the comparison and goes far left, as in the reference.
     auto fixed = [&](VD s) {
-      s = hn::IfThenElse(front, hn::Div(s, w), hn::Neg(lim));
+      s = hn::IfThenElse(front, hn::Mul(s, k), hn::Neg(lim));
       s = hn::IfThenElse(hn::Ge(s, hn::Neg(lim)), hn::Min(s, lim), hn::Neg(lim));
-      return hn::DemoteTo(dh, hn::Floor(hn::Add(hn::Mul(s, one), half)));
+      return hn::DemoteTo(dh, hn::Floor(hn::Add(s, half)));
     };
     X = fixed(hn::Add(hn::Mul(b00_, xd), rowX_));
     Y = fixed(hn::Add(hn::Mul(b10_, xd), rowY_));

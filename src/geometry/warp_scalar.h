@@ -9,10 +9,11 @@
 //   X = Q(B00 x) + Q(B01 y + B02), Y likewise,
 // so a row needs one integer add a pixel (the column terms are a table made
 // once a call) and a pixel depends on its position alone, not on the tile.
-// Perspective: sx = B00 x + (B01 y + B02), sy likewise, both divided by
-// w = B20 x + (B21 y + B22), each product, sum and quotient one double
-// rounding; X = Q(sx / w); a pixel with w <= 0 has no source point (it is
-// read as lying far outside).
+// Perspective: sx = B00 x + (B01 y + B02), sy likewise, w = B20 x +
+// (B21 y + B22), k = 1024 / w, each product, sum and quotient one double
+// rounding; X = floor(sx k + 0.5), held as Q holds (one division a pixel for
+// both coordinates); a pixel with w <= 0 has no source point (it is read as
+// lying far outside).
 // Then xi = floor(X / 1024), fx = X - 1024 xi; nearest reads pixel
 // floor((X + 512) / 1024).
 #pragma once
@@ -36,7 +37,14 @@ constexpr int64_t kFarFixed = int64_t(1) << 40;  // kFar in fixed point
 
 inline double HoldCoordinate(double s) { return s > kFar ? kFar : (s >= -kFar ? s : -kFar); }
 
-inline int64_t Fixed(double s) { return int64_t(std::floor(HoldCoordinate(s) * kOne + 0.5)); }
+// A position already in 1/1024 pixel, held and rounded.
+inline int64_t Rounded(double t) {
+  const double far = kFar * kOne;
+  return int64_t(std::floor((t > far ? far : (t >= -far ? t : -far)) + 0.5));
+}
+
+// Scaling by 1024 is exact, so holding before or after it is the same.
+inline int64_t Fixed(double s) { return Rounded(s * kOne); }
 
 // The affine column terms Q(B00 x), Q(B10 x) of columns x0 .. x0 + n - 1
 // into tx and ty; false when one needs more than 30 bits (the vector kernels
@@ -68,9 +76,9 @@ inline void Coordinates(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, co
     const double xd = double(x0 + i);
     int64_t X, Y;
     if (f.perspective) {
-      const double w = b[2][0] * xd + rowW;
-      X = w > 0 ? Fixed((b[0][0] * xd + rowX) / w) : Fixed(-kFar);
-      Y = w > 0 ? Fixed((b[1][0] * xd + rowY) / w) : Fixed(-kFar);
+      const double w = b[2][0] * xd + rowW, k = kOne / w;
+      X = w > 0 ? Rounded((b[0][0] * xd + rowX) * k) : -kFarFixed;
+      Y = w > 0 ? Rounded((b[1][0] * xd + rowY) * k) : -kFarFixed;
     } else {
       X = std::clamp(Fixed(b[0][0] * xd) + termX, -kFarFixed, kFarFixed);
       Y = std::clamp(Fixed(b[1][0] * xd) + termY, -kFarFixed, kFarFixed);
