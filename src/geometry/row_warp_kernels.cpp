@@ -216,6 +216,11 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       } else if (leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
         continue;
+      } else if (constant && hn::AllFalse(di, hn::Or(hn::And(inside(xi, loX, hiX), inside(yi, loY, hiY)),
+                                                    hn::And(inside(xn, loX, hiX), inside(yn, loY, hiY))))) {
+        // Every tap outside (the corner taps decide: the others share their
+        // column and row): the blend of four constants is the constant.
+        for (int k = 0; k < C; ++k) r[k] = value[k];
       } else {
         const auto x0c = hn::Min(hn::Max(xi, loX), hiX), x1c = hn::Min(hn::Max(xn, loX), hiX);
         const auto r0 = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step), r1 = hn::Mul(hn::Min(hn::Max(yn, loY), hiY), step);
@@ -241,6 +246,11 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
+        continue;
+      }
+      if (constant && hn::AllFalse(di, in)) {
+        for (int k = 0; k < C; ++k) r[k] = value[k];
+        Store8u<C>(r, dst + i * C);
         continue;
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
