@@ -135,6 +135,8 @@ class Words8u {
     const auto word = hn::GatherOffset(du, base_, hn::Add(row, start));
     return hn::Shr(word, hn::BitCast(du, hn::ShiftLeft<3>(hn::Sub(col, start))));
   }
+  // The word at `col` where it is known to end inside the row.
+  HWY_INLINE VU Inner(VI row, VI col) const { return hn::GatherOffset(DU(), base_, hn::Add(row, col)); }
 
  private:
   const uint32_t* base_;
@@ -200,16 +202,19 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       const auto xi = hn::ShiftRight<10>(X), yi = hn::ShiftRight<10>(Y);
       const auto fx = hn::And(X, frac), fy = hn::And(Y, frac);
       const auto xn = hn::Add(xi, oneI), yn = hn::Add(yi, oneI);
-      const auto in = hn::And(inside(xi, loX, hn::Sub(hiX, oneI)), inside(yi, loY, hn::Sub(hiY, oneI)));
+      // Inside with room for the word reads: the last word of a row then
+      // ends at its last byte at most (1 channel: pixels xi .. xi + 3).
+      const auto room = hn::Set(di, C == 1 ? 3 : C == 3 ? 2 : 1);
+      const auto in = hn::And(inside(xi, loX, hn::Sub(hiX, room)), inside(yi, loY, hn::Sub(hiY, oneI)));
       if (hn::AllTrue(di, in)) {
         const auto row = hn::Mul(yi, step), col = hn::Mul(xi, hn::Set(di, C));
         if constexpr (C == 1) {
-          const auto top = words.At(row, col), bottom = words.At(hn::Add(row, step), col);
+          const auto top = words.Inner(row, col), bottom = words.Inner(hn::Add(row, step), col);
           r[0] = Blend8u(channel(top, 0), channel(top, 1), channel(bottom, 0), channel(bottom, 1), fx, fy);
         } else {
           const auto colN = hn::Add(col, hn::Set(di, C)), rowN = hn::Add(row, step);
-          const auto w00 = words.At(row, col), w01 = words.At(row, colN);
-          const auto w10 = words.At(rowN, col), w11 = words.At(rowN, colN);
+          const auto w00 = words.Inner(row, col), w01 = words.Inner(row, colN);
+          const auto w10 = words.Inner(rowN, col), w11 = words.Inner(rowN, colN);
           for (int k = 0; k < C; ++k)
             r[k] = Blend8u(channel(w00, k), channel(w01, k), channel(w10, k), channel(w11, k), fx, fy);
         }
