@@ -3,6 +3,8 @@
 // CPU level, the constant fill of a spec that asks for it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -10,6 +12,7 @@
 
 #include "peli.h"
 #include "support/cpu_levels.h"
+#include "support/image.h"
 
 namespace {
 
@@ -52,7 +55,8 @@ TEST(WarpHelpers, RotationsAndFits) {
 // One 8u or 32f warp through a fresh spec, tile by tile.
 struct Warp8u {
   PeliSize src, dst;
-  std::vector<Pel8u> in;
+  // The source's last byte touches an unreadable page: a read past it faults.
+  peltest::Bytes in{peltest::GuardedAllocator(peltest::Fence::AtEnd)};
   double m[2][3];
   int border = pelBorderReplicate, method = 2, C = 1;
 
@@ -100,15 +104,20 @@ TEST(WarpProcessing, IdentityAndIntegerShiftsCopy) {
         w.method = method;
         const double id[2][3] = {{1, 0, 0}, {0, 1, 0}};
         std::memcpy(w.m, id, sizeof id);
-        EXPECT_EQ(w.Run(67, 23), w.in) << "identity, method " << method << ", C" << C;
-        // dst (x, y) reads src (x + 3, y - 2): a copy where that is inside.
-        const double shift[2][3] = {{1, 0, 3}, {0, 1, -2}};
-        std::memcpy(w.m, shift, sizeof shift);
-        const std::vector<Pel8u> out = w.Run(67, 23);
-        for (int y = 2; y < 23; ++y)
-          for (int x = 0; x + 3 < 67; ++x)
-            for (int c = 0; c < C; ++c)
-              ASSERT_EQ(out[(size_t(y) * 67 + x) * C + c], w.in[(size_t(y - 2) * 67 + x + 3) * C + c]);
+        EXPECT_EQ(w.Run(67, 23), std::vector<Pel8u>(w.in.begin(), w.in.end())) << "identity, method " << method << ", C" << C;
+        // dst (x, y) reads src (x + dx, y + dy): a copy where that is inside.
+        // (2, 1) ends whole blocks of any width dividing 64 at the source's
+        // next-to-last column, next to the last byte of the source.
+        for (const std::array<int, 2>& d : {std::array<int, 2>{3, -2}, std::array<int, 2>{2, 1}}) {
+          const double shift[2][3] = {{1, 0, double(d[0])}, {0, 1, double(d[1])}};
+          std::memcpy(w.m, shift, sizeof shift);
+          const std::vector<Pel8u> out = w.Run(67, 23);
+          for (int y = std::max(0, -d[1]); y < std::min(23, 23 - d[1]); ++y)
+            for (int x = 0; x + d[0] < 67; ++x)
+              for (int c = 0; c < C; ++c)
+                ASSERT_EQ(out[(size_t(y) * 67 + x) * C + c], w.in[(size_t(y + d[1]) * 67 + x + d[0]) * C + c])
+                    << "shift " << d[0] << "," << d[1] << " method " << method << " C" << C << " at " << x << "," << y;
+        }
       }
   });
 }
