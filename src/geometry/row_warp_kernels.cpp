@@ -17,6 +17,7 @@
 
 #include "geometry/row_warp_kernels.h"
 #include "geometry/warp_scalar.h"
+#include "hwy/cache_control.h"
 #include "hwy/highway.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -143,6 +144,21 @@ class Words8u {
   VI last_;
 };
 
+// Where a destination row's pixels read, four rows below: the source bytes
+// that the walk reaches then. No hardware prefetcher follows a slanted walk,
+// so the blocks ask for them (measured best at four rows on the bench's
+// rotations).
+inline int64_t AheadBytes(const WarpFrame& f) {
+  const double v = 4 * (f.back[1][1] * double(f.srcStep) + f.back[0][1] * double(f.channels * f.elemBytes));
+  return v > -1073741824.0 && v < 1073741824.0 ? int64_t(v) : 0;
+}
+
+HWY_INLINE void Ahead(const WarpFrame& f, int64_t offset) {
+  const uintptr_t at = reinterpret_cast<uintptr_t>(f.src) + uintptr_t(offset);
+  hwy::Prefetch(reinterpret_cast<const uint8_t*>(at));
+  hwy::Prefetch(reinterpret_cast<const uint8_t*>(at + 64));
+}
+
 template <int C>
 HWY_INLINE void Store8u(const VI (&r)[C], uint8_t* out) {
   const DI di;
@@ -180,6 +196,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
   if (n < N) return scalar::Row(f, y, x0, n, dst);
   const RowMap map(f, y);
   const Words8u words(f, C);
+  const int64_t ahead = AheadBytes(f);
   const auto step = hn::Set(di, int32_t(f.srcStep));
   const auto loX = hn::Set(di, int32_t(f.loX)), hiX = hn::Set(di, int32_t(f.hiX));
   const auto loY = hn::Set(di, int32_t(f.loY)), hiY = hn::Set(di, int32_t(f.hiY));
@@ -208,6 +225,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       const auto in = hn::And(inside(xi, loX, hn::Sub(hiX, room)), inside(yi, loY, hn::Sub(hiY, oneI)));
       if (hn::AllTrue(di, in)) {
         const auto row = hn::Mul(yi, step), col = hn::Mul(xi, hn::Set(di, C));
+        Ahead(f, hn::GetLane(row) + hn::GetLane(col) + ahead);
         if constexpr (C == 1) {
           const auto top = words.Inner(row, col), bottom = words.Inner(hn::Add(row, step), col);
           r[0] = Blend8u(channel(top, 0), channel(top, 1), channel(bottom, 0), channel(bottom, 1), fx, fy);
@@ -260,6 +278,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), hn::Set(di, C));
+      Ahead(f, hn::GetLane(row) + hn::GetLane(col) + ahead);
       const auto w = words.At(row, col);
       for (int k = 0; k < C; ++k) {
         r[k] = channel(w, k);
@@ -282,6 +301,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
   const int64_t N = int64_t(hn::Lanes(di));
   if (n < N) return scalar::Row(f, y, x0, n, dstRow);
   const RowMap map(f, y);
+  const int64_t ahead = AheadBytes(f);
   const float* base = reinterpret_cast<const float*>(f.src);
   float* dst = reinterpret_cast<float*>(dstRow);
   const auto step = hn::Set(di, int32_t(f.srcStep)), pixel = hn::Set(di, int32_t(4 * C));
@@ -318,6 +338,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
       auto clampY = [&](VI v) { return all ? v : hn::Min(hn::Max(v, loY), hiY); };
       const auto r0 = hn::Mul(clampY(yi), step), r1 = hn::Mul(clampY(yn), step);
       const auto c0 = hn::Mul(clampX(xi), pixel), c1 = hn::Mul(clampX(xn), pixel);
+      Ahead(f, hn::GetLane(r0) + hn::GetLane(c0) + ahead);
       const auto in0 = inside(xi, loX, hiX), in1 = inside(xn, loX, hiX);
       const auto top = inside(yi, loY, hiY), bottom = inside(yn, loY, hiY);
       for (int k = 0; k < C; ++k) {
@@ -343,6 +364,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), pixel);
+      Ahead(f, hn::GetLane(row) + hn::GetLane(col) + ahead);
       for (int k = 0; k < C; ++k) {
         r[k] = at(row, col, k);
         if (constant && !all) r[k] = hn::IfThenElse(hn::RebindMask(df, in), r[k], value[k]);
