@@ -121,6 +121,18 @@ class RowMap {
   VI termX_, termY_;
 };
 
+// The pixel nearest to a fixed-point position: floor((X + 512) / 1024).
+HWY_INLINE VI NearestOf(VI X) { return hn::ShiftRight<10>(hn::Add(X, hn::Set(DI(), kOne / 2))); }
+
+HWY_INLINE hn::Mask<DI> Inside(VI v, VI lo, VI hi) { return hn::Not(hn::Or(hn::Lt(v, lo), hn::Gt(v, hi))); }
+
+// body(i) for the blocks of a row of n >= N pixels from pixel i; the last
+// block ends at the row's end and may redo pixels of the one before.
+template <class Body>
+HWY_INLINE void ForEachBlock(int64_t n, int64_t N, const Body& body) {
+  for (int64_t i = 0; i < n; i += N) body(std::min(i, n - N));
+}
+
 // ---- 8u -----------------------------------------------------------------------
 
 // Bytes of a row of 8u pixels read as 32-bit words: the word that starts at
@@ -205,13 +217,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
   VI value[C];
   for (int k = 0; k < C; ++k) value[k] = hn::Set(di, f.borderPixel[k]);
   auto channel = [&](VU w, int k) { return hn::And(hn::BitCast(di, hn::ShiftRightSame(w, 8 * k)), byte); };
-  auto inside = [&](VI v, VI lo, VI hi) { return hn::Not(hn::Or(hn::Lt(v, lo), hn::Gt(v, hi))); };
-  for (int64_t i = 0;; i += N) {
-    // The last block ends at the row's end; it may redo pixels of the one before.
-    if (i + N > n) {
-      if (i >= n) break;
-      i = n - N;
-    }
+  ForEachBlock(n, N, [&](int64_t i) {
     VI X, Y;
     map.Map(x0 + i, X, Y);
     VI r[C];
@@ -222,7 +228,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       // Inside with room for the word reads: the last word of a row then
       // ends at its last byte at most (1 channel: pixels xi .. xi + 3).
       const auto room = hn::Set(di, C == 1 ? 3 : C == 3 ? 2 : 1);
-      const auto in = hn::And(inside(xi, loX, hn::Sub(hiX, room)), inside(yi, loY, hn::Sub(hiY, oneI)));
+      const auto in = hn::And(Inside(xi, loX, hn::Sub(hiX, room)), Inside(yi, loY, hn::Sub(hiY, oneI)));
       if (hn::AllTrue(di, in)) {
         const auto row = hn::Mul(yi, step), col = hn::Mul(xi, hn::Set(di, C));
         Ahead(f, hn::GetLane(row) + hn::GetLane(col) + ahead);
@@ -238,9 +244,9 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
         }
       } else if (leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
-        continue;
-      } else if (constant && hn::AllFalse(di, hn::Or(hn::And(inside(xi, loX, hiX), inside(yi, loY, hiY)),
-                                                    hn::And(inside(xn, loX, hiX), inside(yn, loY, hiY))))) {
+        return;
+      } else if (constant && hn::AllFalse(di, hn::Or(hn::And(Inside(xi, loX, hiX), Inside(yi, loY, hiY)),
+                                                    hn::And(Inside(xn, loX, hiX), Inside(yn, loY, hiY))))) {
         // Every tap outside (the corner taps decide: the others share their
         // column and row): the blend of four constants is the constant.
         for (int k = 0; k < C; ++k) r[k] = value[k];
@@ -249,8 +255,8 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
         const auto r0 = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step), r1 = hn::Mul(hn::Min(hn::Max(yn, loY), hiY), step);
         const auto c0 = hn::Mul(x0c, hn::Set(di, C)), c1 = hn::Mul(x1c, hn::Set(di, C));
         const auto w00 = words.At(r0, c0), w01 = words.At(r0, c1), w10 = words.At(r1, c0), w11 = words.At(r1, c1);
-        const auto in0 = inside(xi, loX, hiX), in1 = inside(xn, loX, hiX);
-        const auto top = inside(yi, loY, hiY), bottom = inside(yn, loY, hiY);
+        const auto in0 = Inside(xi, loX, hiX), in1 = Inside(xn, loX, hiX);
+        const auto top = Inside(yi, loY, hiY), bottom = Inside(yn, loY, hiY);
         for (int k = 0; k < C; ++k) {
           auto p00 = channel(w00, k), p01 = channel(w01, k), p10 = channel(w10, k), p11 = channel(w11, k);
           if (constant) {
@@ -263,18 +269,17 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
         }
       }
     } else {
-      const auto half = hn::Set(di, kOne / 2);
-      const auto xi = hn::ShiftRight<10>(hn::Add(X, half)), yi = hn::ShiftRight<10>(hn::Add(Y, half));
-      const auto in = hn::And(inside(xi, loX, hiX), inside(yi, loY, hiY));
+      const auto xi = NearestOf(X), yi = NearestOf(Y);
+      const auto in = hn::And(Inside(xi, loX, hiX), Inside(yi, loY, hiY));
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
-        continue;
+        return;
       }
       if (constant && hn::AllFalse(di, in)) {
         for (int k = 0; k < C; ++k) r[k] = value[k];
         Store8u<C>(r, dst + i * C);
-        continue;
+        return;
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), hn::Set(di, C));
@@ -286,7 +291,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       }
     }
     Store8u<C>(r, dst + i * C);
-  }
+  });
 }
 
 // ---- 32f ----------------------------------------------------------------------
@@ -312,13 +317,8 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
   const bool constant = f.kind == pelBorderConstant, leave = f.kind == 7;
   hn::Vec<decltype(df)> value[C], r[C];
   for (int k = 0; k < C; ++k) value[k] = hn::Set(df, reinterpret_cast<const float*>(f.borderPixel)[k]);
-  auto inside = [&](VI v, VI lo, VI hi) { return hn::Not(hn::Or(hn::Lt(v, lo), hn::Gt(v, hi))); };
   auto at = [&](VI row, VI col, int k) { return hn::GatherOffset(df, base, hn::Add(hn::Add(row, col), hn::Set(di, 4 * k))); };
-  for (int64_t i = 0;; i += N) {
-    if (i + N > n) {
-      if (i >= n) break;
-      i = n - N;
-    }
+  ForEachBlock(n, N, [&](int64_t i) {
     VI X, Y;
     map.Map(x0 + i, X, Y);
     if constexpr (kLinear) {
@@ -328,19 +328,19 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
       const auto wx0 = hn::Sub(one, wx1), wy0 = hn::Sub(one, wy1);
       const auto xn = hn::IfThenElse(hn::Eq(fx, zero), xi, hn::Add(xi, oneI));
       const auto yn = hn::IfThenElse(hn::Eq(fy, zero), yi, hn::Add(yi, oneI));
-      const auto in = hn::And(inside(xi, loX, hn::Sub(hiX, oneI)), inside(yi, loY, hn::Sub(hiY, oneI)));
+      const auto in = hn::And(Inside(xi, loX, hn::Sub(hiX, oneI)), Inside(yi, loY, hn::Sub(hiY, oneI)));
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dstRow + i * 4 * C);
-        continue;
+        return;
       }
       auto clampX = [&](VI v) { return all ? v : hn::Min(hn::Max(v, loX), hiX); };
       auto clampY = [&](VI v) { return all ? v : hn::Min(hn::Max(v, loY), hiY); };
       const auto r0 = hn::Mul(clampY(yi), step), r1 = hn::Mul(clampY(yn), step);
       const auto c0 = hn::Mul(clampX(xi), pixel), c1 = hn::Mul(clampX(xn), pixel);
       Ahead(f, hn::GetLane(r0) + hn::GetLane(c0) + ahead);
-      const auto in0 = inside(xi, loX, hiX), in1 = inside(xn, loX, hiX);
-      const auto top = inside(yi, loY, hiY), bottom = inside(yn, loY, hiY);
+      const auto in0 = Inside(xi, loX, hiX), in1 = Inside(xn, loX, hiX);
+      const auto top = Inside(yi, loY, hiY), bottom = Inside(yn, loY, hiY);
       for (int k = 0; k < C; ++k) {
         auto p00 = at(r0, c0, k), p01 = at(r0, c1, k), p10 = at(r1, c0, k), p11 = at(r1, c1, k);
         if (constant && !all) {
@@ -354,13 +354,12 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
         r[k] = hn::Add(hn::Mul(upper, wy0), hn::Mul(lower, wy1));
       }
     } else {
-      const auto half = hn::Set(di, kOne / 2);
-      const auto xi = hn::ShiftRight<10>(hn::Add(X, half)), yi = hn::ShiftRight<10>(hn::Add(Y, half));
-      const auto in = hn::And(inside(xi, loX, hiX), inside(yi, loY, hiY));
+      const auto xi = NearestOf(X), yi = NearestOf(Y);
+      const auto in = hn::And(Inside(xi, loX, hiX), Inside(yi, loY, hiY));
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dstRow + i * 4 * C);
-        continue;
+        return;
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), pixel);
@@ -374,7 +373,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
     if constexpr (C == 1) hn::StoreU(r[0], df, out);
     else if constexpr (C == 3) hn::StoreInterleaved3(r[0], r[1], r[2], df, out);
     else hn::StoreInterleaved4(r[0], r[1], r[2], r[3], df, out);
-  }
+  });
 }
 
 void WarpRowTarget(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow) {
