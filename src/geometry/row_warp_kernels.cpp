@@ -15,6 +15,9 @@
 #define HWY_TARGET_INCLUDE "geometry/row_warp_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
 
+#include <algorithm>
+#include <cmath>
+
 #include "geometry/row_warp_kernels.h"
 #include "geometry/warp_scalar.h"
 #include "hwy/cache_control.h"
@@ -126,13 +129,6 @@ HWY_INLINE VI NearestOf(VI X) { return hn::ShiftRight<10>(hn::Add(X, hn::Set(DI(
 
 HWY_INLINE hn::Mask<DI> Inside(VI v, VI lo, VI hi) { return hn::Not(hn::Or(hn::Lt(v, lo), hn::Gt(v, hi))); }
 
-// body(i) for the blocks of a row of n >= N pixels from pixel i; the last
-// block ends at the row's end and may redo pixels of the one before.
-template <class Body>
-HWY_INLINE void ForEachBlock(int64_t n, int64_t N, const Body& body) {
-  for (int64_t i = 0; i < n; i += N) body(std::min(i, n - N));
-}
-
 // ---- 8u -----------------------------------------------------------------------
 
 // Bytes of a row of 8u pixels read as 32-bit words: the word that starts at
@@ -161,7 +157,9 @@ class Words8u {
 // so the blocks ask for them (measured best at four rows on the bench's
 // rotations).
 inline int64_t AheadBytes(const WarpFrame& f) {
-  const double v = 4 * (f.back[1][1] * double(f.srcStep) + f.back[0][1] * double(f.channels * f.elemBytes));
+  // Whole rows: a fraction of a row's step would move the address along the row.
+  const double rows = std::nearbyint(4 * f.back[1][1]), cols = std::nearbyint(4 * f.back[0][1]);
+  const double v = rows * double(f.srcStep) + cols * double(f.channels * f.elemBytes);
   return v > -1073741824.0 && v < 1073741824.0 ? int64_t(v) : 0;
 }
 
@@ -217,7 +215,9 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
   VI value[C];
   for (int k = 0; k < C; ++k) value[k] = hn::Set(di, f.borderPixel[k]);
   auto channel = [&](VU w, int k) { return hn::And(hn::BitCast(di, hn::ShiftRightSame(w, 8 * k)), byte); };
-  ForEachBlock(n, N, [&](int64_t i) {
+  // The last block ends at the row's end; it may redo pixels of the one before.
+  for (int64_t b = 0; b < n; b += N) {
+    const int64_t i = std::min(b, n - N);
     VI X, Y;
     map.Map(x0 + i, X, Y);
     VI r[C];
@@ -244,7 +244,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
         }
       } else if (leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
-        return;
+        continue;
       } else if (constant && hn::AllFalse(di, hn::Or(hn::And(Inside(xi, loX, hiX), Inside(yi, loY, hiY)),
                                                     hn::And(Inside(xn, loX, hiX), Inside(yn, loY, hiY))))) {
         // Every tap outside (the corner taps decide: the others share their
@@ -274,12 +274,12 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dst + i * C);
-        return;
+        continue;
       }
       if (constant && hn::AllFalse(di, in)) {
         for (int k = 0; k < C; ++k) r[k] = value[k];
         Store8u<C>(r, dst + i * C);
-        return;
+        continue;
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), hn::Set(di, C));
@@ -291,7 +291,7 @@ void Row8u(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dst) {
       }
     }
     Store8u<C>(r, dst + i * C);
-  });
+  }
 }
 
 // ---- 32f ----------------------------------------------------------------------
@@ -318,7 +318,9 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
   hn::Vec<decltype(df)> value[C], r[C];
   for (int k = 0; k < C; ++k) value[k] = hn::Set(df, reinterpret_cast<const float*>(f.borderPixel)[k]);
   auto at = [&](VI row, VI col, int k) { return hn::GatherOffset(df, base, hn::Add(hn::Add(row, col), hn::Set(di, 4 * k))); };
-  ForEachBlock(n, N, [&](int64_t i) {
+  // The last block ends at the row's end; it may redo pixels of the one before.
+  for (int64_t b = 0; b < n; b += N) {
+    const int64_t i = std::min(b, n - N);
     VI X, Y;
     map.Map(x0 + i, X, Y);
     if constexpr (kLinear) {
@@ -332,7 +334,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dstRow + i * 4 * C);
-        return;
+        continue;
       }
       auto clampX = [&](VI v) { return all ? v : hn::Min(hn::Max(v, loX), hiX); };
       auto clampY = [&](VI v) { return all ? v : hn::Min(hn::Max(v, loY), hiY); };
@@ -359,7 +361,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
       const bool all = hn::AllTrue(di, in);
       if (!all && leave) {
         scalar::Row(f, y, x0 + i, N, dstRow + i * 4 * C);
-        return;
+        continue;
       }
       const auto row = hn::Mul(hn::Min(hn::Max(yi, loY), hiY), step);
       const auto col = hn::Mul(hn::Min(hn::Max(xi, loX), hiX), pixel);
@@ -373,7 +375,7 @@ void Row32f(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRo
     if constexpr (C == 1) hn::StoreU(r[0], df, out);
     else if constexpr (C == 3) hn::StoreInterleaved3(r[0], r[1], r[2], df, out);
     else hn::StoreInterleaved4(r[0], r[1], r[2], r[3], df, out);
-  });
+  }
 }
 
 void WarpRowTarget(const WarpFrame& f, int64_t y, int64_t x0, int64_t n, uint8_t* dstRow) {
