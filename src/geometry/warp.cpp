@@ -10,6 +10,7 @@
 #include "core/border.h"
 #include "core/common.h"
 #include "core/exports.h"
+#include "core/fp_env.h"
 #include "core/spec.h"
 #include "geometry/geometry_frame.h"
 #include "geometry/row_warp_kernels.h"
@@ -97,6 +98,9 @@ PelStatus Process(const T* pSrc, Step srcStep, T* pDst, Step dstStep, Point offs
   const bool adjusted = t.width < int64_t(size.width) || t.height < int64_t(size.height);
   if (s.status != pelStatusOk) return s.status;
   if (!BorderCodeAccepted(s.border, {pelBorderReplicate, pelBorderConstant, 7})) return pelStatusBadBorderType;
+  // Positions and float blends are defined with round-to-nearest, whatever
+  // mode the caller's thread runs in.
+  const RoundingScope nearest(RoundingScope::kNearest);
   WarpFrame f = MakeFrame<T, C>(s, pSrc, ptrdiff_t(srcStep));
   const bool constant = s.border != pelBorderInMem && SplitBorder(s.border).kind == pelBorderConstant;
   if (constant && s.fillDone == 0) {
