@@ -415,10 +415,15 @@ PELI_API PelStatus peliGetPerspectiveBound(PeliRect srcRoi, double bound[2][2], 
  * source point (sx, sy); for perspective a pixel whose w is not positive has
  * no source point and is read as lying far outside.
  *
- * Rounding: every product and sum is one double rounding (never fused), then
- * sx is rounded to 1/1024 pixel, X = floor(1024 sx + 0.5), xi = floor(X / 1024),
- * fx = X - 1024 xi (likewise y). A pixel depends only on its position: any
- * tiling, any processor gives the same bytes.
+ * Rounding: positions are in 1/1024 pixel, Q(v) = floor(1024 v + 0.5) with v
+ * held to +-2^30 first; every product and sum is one double rounding (never
+ * fused, to nearest whatever the caller's mode). Affine: the column and row
+ * terms are rounded apart, X = Q(M00 x) + Q(M01 y + M02) (M the matrix that
+ * carries destination to source; likewise Y). Perspective: k = 1024 / w,
+ * X = floor(sx k + 0.5), held likewise. Then xi = floor(X / 1024),
+ * fx = X - 1024 xi (likewise y); the error against exact arithmetic is at
+ * most 1/1024 pixel. A pixel depends only on its position: any tiling, any
+ * processor gives the same bytes.
  *   Nearest: pixel round(X / 1024), halves up.
  *   Linear:  taps xi, xi + 1 and yi, yi + 1 with weights 1024 - fx, fx.
  *            Integer types: t = p00 (1024 - fx) + p01 fx (upper row), b likewise,
