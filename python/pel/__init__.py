@@ -21,7 +21,10 @@ from ._arith import OPS as _ARITH
 from ._convert import compare, compare_eps, convert, scale, threshold, threshold_lt_gt
 from ._stats import (count_in_range, dot, histogram, max, max_index, mean, min, min_index,
                      min_max, norm, norm_diff, norm_rel, sum)
-from ._geometry import Resize, resize, resizer
+from ._geometry import Resize, Warp, resize, resizer, warp_affine, warp_perspective, warper
+from ._filter import (box_filter, dilate3x3, erode3x3, filter2d, max_filter, median_filter,
+                      min_filter)
+from ._lut import lut, palette
 from ._transform import fft, ifft, mul_pack, unpack
 
 globals().update(_ARITH)
