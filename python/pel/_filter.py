@@ -29,7 +29,7 @@ _codes = {}
 
 def border_code(border, in_memory=(), allowed=BORDERS):
     """The C border code: the rule's kind with the in-memory sides' flags."""
-    key = (border, in_memory if type(in_memory) is tuple else tuple(in_memory))
+    key = (border, in_memory if type(in_memory) is tuple else tuple(in_memory), len(allowed))
     code = _codes.get(key)
     if code is not None:
         return code

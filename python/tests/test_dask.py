@@ -46,6 +46,43 @@ def test_resize_tiles_equal_whole(dtype, c, interp, border, dsize, chunks, rng):
     np.testing.assert_array_equal(got, pel.resize(img, dsize, interp, border))
 
 
+K = np.arange(20, dtype=np.float32).reshape(4, 5) / 50 - 0.2
+
+
+@pytest.mark.parametrize("fn, args, dtypes", [
+    (pel.filter2d, (K,), (np.float32,)), (pel.filter2d, (np.array([[1, 2, 1], [0, 3, -1]]),), (np.uint8,)),
+    (pel.box_filter, ((5, 3),), (np.uint8, np.float32)), (pel.median_filter, (5,), (np.uint8,)),
+    (pel.min_filter, ((4, 6),), (np.int16,)), (pel.max_filter, (3,), (np.uint16,))])
+@pytest.mark.parametrize("border", ["replicate", "mirror", "constant"])
+@pytest.mark.parametrize("c", [1, 3])
+def test_filters_equal_whole(fn, args, dtypes, border, c, rng):
+    if fn is pel.median_filter and border == "mirror":
+        pytest.skip("not a form of this filter")
+    for dt in dtypes:
+        img = random_image(rng, (43, 51), dt, c)
+        x = da.from_array(img, chunks=(10, 7) + ((c,) if c > 1 else ()))
+        got = pel.dask.filter(fn, x, *args, border=border, value=3).compute(scheduler="threads")
+        np.testing.assert_array_equal(got, fn(img, *args, border=border, value=3))
+
+
+M = [[0.9, 0.25, -3], [-0.2, 1.1, 4]]
+P = [[0.9, 0.1, 3], [-0.1, 0.95, 2], [4e-3, -3e-3, 1]]
+
+
+@pytest.mark.parametrize("dtype, c", [(np.uint8, 1), (np.uint8, 3), (np.uint16, 4), (np.float32, 1)])
+@pytest.mark.parametrize("kind, m, interp, border, inverse", [
+    ("affine", M, "linear", "constant", False), ("affine", M, "cubic", "replicate", True),
+    ("affine", M, "nearest", "transparent", False), ("perspective", P, "linear", "replicate", False),
+    ("perspective", P, "cubic", "constant", True)])
+def test_warp_tiles_equal_whole(dtype, c, kind, m, interp, border, inverse, rng):
+    img = random_image(rng, (41, 35), dtype, c)
+    x = da.from_array(img, chunks=(8, 9) + ((c,) if c > 1 else ()))
+    got = getattr(pel.dask, "warp_" + kind)(x, m, (47, 29), interp, border, 7, inverse,
+                                              chunks=(7, 13)).compute(scheduler="threads")
+    want = getattr(pel, "warp_" + kind)(img, m, (47, 29), interp, border, 7, inverse)
+    np.testing.assert_array_equal(got, want)
+
+
 def test_pointwise(rng):
     a, b = (random_image(rng, (30, 41), np.uint8, 3) for _ in range(2))
     x, y = (da.from_array(v, chunks=(7, 9, 3)) for v in (a, b))
@@ -65,6 +102,10 @@ def test_local_cluster_of_two_workers(rng):
         x = da.from_array(img, chunks=(64, 100, 3))
         small = pel.dask.resize(x, (205, 150), chunks=(40, 70))
         f = pel.dask.neighbourhood(x.astype(np.float32), box3, 1)
-        got_small, got_f = client.compute([small, f], sync=True)
+        g = pel.dask.filter(pel.filter2d, x, K)
+        w = pel.dask.warp_affine(x, M, (320, 290), chunks=(50, 90))
+        got_small, got_f, got_g, got_w = client.compute([small, f, g, w], sync=True)
+    np.testing.assert_array_equal(got_g, pel.filter2d(img, K))
+    np.testing.assert_array_equal(got_w, pel.warp_affine(img, M, (320, 290)))
     np.testing.assert_array_equal(got_small, pel.resize(img, (205, 150)))
     np.testing.assert_array_equal(got_f, pel.dask.whole(img.astype(np.float32), box3, 1))
