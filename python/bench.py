@@ -74,14 +74,67 @@ def cases(h, w):
          prepared("peliResizeLinear_8u_C3R", c8, sw3, os8, os8.strides[0], _core.Point(0, 0),
                   _core.Size(*small), 1, None, r.spec, buf),
          lambda: cv2.resize(c8, small, dst=os8, interpolation=cv2.INTER_LINEAR)),
+    ] + filter_cases(h, w, a8, c8, f32, o8, o83, of, S)
+
+
+def _rank_buffer(stem, w, h, k, dt, c):
+    n = np.zeros(1, np.int32)
+    getattr(raw, "peliFilter%sBorderGetBufferSize" % stem)((w, h), (k, k), dt, c, n)
+    return np.empty(int(n[0]), np.uint8)
+
+
+def filter_cases(h, w, a8, c8, f32, o8, o83, of, S):
+    """Filters, lookup tables and warps, beside the OpenCV call of the same
+    semantics (replicate borders, the same anchor)."""
+    sw, sw3, sf = a8.strides[0], c8.strides[0], f32.strides[0]
+    t8, t32 = raw.pelType8u, raw.pelType32f
+    k5 = (np.arange(25, dtype=np.float32).reshape(5, 5) - 12) / 100
+    spec = pel._filter.kernel_spec(k5, np.float32, 1)
+    fbuf = spec.buffer((h, w)).copy()
+    zero8, zerof = np.zeros(3, np.uint8), np.zeros(1, np.float32)
+    table = (255 - np.arange(256)).astype(np.uint8)
+    levels, values = np.arange(257, dtype=np.int32), (255 - np.arange(257)).astype(np.int32)
+    m = cv2.getRotationMatrix2D((w / 2, h / 2), 5, 0.95)
+    wp = pel.warper("Affine", np.uint8, 1, (w, h), (w, h), m, "linear")
+    P = np.vstack([m, [2e-5, 1e-5, 1]])
+    pp = pel.warper("Perspective", np.uint8, 1, (w, h), (w, h), P, "linear")
+    return [
+        ("box 5x5 8u C1", lambda: pel.box_filter(a8, 5, out=o8),
+         prepared("peliFilterBoxBorder_8u_C1R", a8, sw, o8, sw, S, _core.Size(5, 5), 1, zero8,
+                  _rank_buffer("Box", w, h, 5, t8, 1)),
+         lambda: cv2.blur(a8, (5, 5), dst=o8, borderType=cv2.BORDER_REPLICATE)),
+        ("median 3x3 8u C1", lambda: pel.median_filter(a8, 3, out=o8),
+         prepared("peliFilterMedianBorder_8u_C1R", a8, sw, o8, sw, S, _core.Size(3, 3), 1, 0,
+                  _rank_buffer("Median", w, h, 3, t8, 1)),
+         lambda: cv2.medianBlur(a8, 3, dst=o8)),
+        ("max 3x3 8u C3", lambda: pel.max_filter(c8, 3, out=o83),
+         prepared("peliFilterMaxBorder_8u_C3R", c8, sw3, o83, sw3, S, _core.Size(3, 3), 1, 0,
+                  _rank_buffer("Max", w, h, 3, t8, 3)),
+         lambda: cv2.dilate(c8, np.ones((3, 3), np.uint8), dst=o83, borderType=cv2.BORDER_REPLICATE)),
+        ("filter2d 5x5 32f", lambda: pel.filter2d(f32, k5, out=of),
+         prepared("peliFilterBorder_32f_C1R", f32, sf, of, sf, S, 1, zerof, spec.spec, fbuf),
+         lambda: cv2.filter2D(f32, -1, k5, dst=of, borderType=cv2.BORDER_REPLICATE)),
+        ("lut 8u C1", lambda: pel.lut(a8, values[:256], levels, out=o8),
+         prepared("peliLUT_8u_C1R", a8, sw, o8, sw, S, values, levels, 257),
+         lambda: cv2.LUT(a8, table, dst=o8)),
+        ("warp aff lin 8u C1", lambda: pel.warp_affine(a8, m, out=o8),
+         prepared("peliWarpAffineLinear_8u_C1R", a8, sw, o8, sw, _core.Point(0, 0), S, wp.spec,
+                  wp.buffer()),
+         lambda: cv2.warpAffine(a8, m, (w, h), dst=o8, flags=cv2.INTER_LINEAR)),
+        ("warp persp lin 8u", lambda: pel.warp_perspective(a8, P, out=o8),
+         prepared("peliWarpPerspectiveLinear_8u_C1R", a8, sw, o8, sw, _core.Point(0, 0), S,
+                  pp.spec, pp.buffer()),
+         lambda: cv2.warpPerspective(a8, P, (w, h), dst=o8, flags=cv2.INTER_LINEAR)),
     ]
 
 
-def calls():
+def calls(only=None):
     print("%-18s %10s %10s %9s | %10s %10s %8s %8s" % (
         "operation", "64x64 py", "64x64 C", "overhead", "1080p py", "1080p C", "C/py", "cv2/py"))
     small, large = cases(64, 64), cases(1080, 1920)
     for (name, py, c, _), (_, py2, c2, cv) in zip(small, large):
+        if only and not any(o in name for o in only):
+            continue
         # Alternate the contenders so that a burst of load hits all of them.
         tp = tc = tp2 = tc2 = tcv = 1e9
         for _ in range(3):
@@ -125,6 +178,6 @@ def scale_out():
 
 
 if __name__ == "__main__":
-    calls()
+    calls([a for a in sys.argv[1:] if not a.startswith("--")])
     if "--dask" in sys.argv:
         scale_out()

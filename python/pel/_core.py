@@ -274,7 +274,7 @@ def bind(name):
     first = _first_image(params, pairs)
     ns = {"_f": raw.function(name).cfunc, "_check": check, "_name": name, "_Size": Size,
           "_addr": _addr, "_ctypes": ctypes, "_fa": _from_address, "_OFF": _DATA_OFFSET,
-          "_roi": _roi, "_st": _struct}
+          "_roi": _roi, "_st": _struct, "_nd": np.ndarray}
     args, exprs, defaults = [], [], []
     for i, p in enumerate(params):
         n = p.name
@@ -295,7 +295,10 @@ def bind(name):
             exprs.append("_A%d(*%s)" % (i, n))
         elif p.pointer:
             args.append(n)
-            exprs.append("_addr(%s)" % n)
+            # Specs, buffers and result arrays are numpy arrays: their
+            # address inline; anything else (None, ctypes objects) by _addr.
+            exprs.append(("(%s if type(%s) is _nd else _addr(%s))" % (_PTR % n, n, n))
+                         if _FAST_PTR else "_addr(%s)" % n)
         elif p.base in ("PeliSize", "PeliSizeL", "PeliPoint", "PeliPointL"):
             ns["_T%d" % i] = p.ctype
             if n == "roiSize" and first and p.base == "PeliSize":

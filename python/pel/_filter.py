@@ -73,7 +73,7 @@ _pixels = {}
 
 def _pixel(value, c, dtype):
     """A border value array (one per channel), kept for the next call."""
-    key = (value if np.ndim(value) == 0 else tuple(value), c, dtype)
+    key = (value if type(value) in (int, float) or np.ndim(value) == 0 else tuple(value), c, dtype)
     a = _pixels.get(key)
     if a is None:
         a = np.array(values(value, c, dtype, "value"), dtype)
@@ -91,44 +91,46 @@ _RANK = {
     "min_filter": ("Min", "minimum", BORDERS),
     "max_filter": ("Max", "maximum", BORDERS),
 }
-_sizes = {}
-
-
 def _rank(pyname):
     stem, what, allowed = _RANK[pyname]
     cstem = "peliFilter%sBorder" % stem
     getsize = bind(cstem + "GetBufferSize")
-    scalar_value = {}
+    plans = {}
+
+    def plan(src, c, size, border, value, border_in_memory):
+        """What a call of these arguments passes besides the images: the
+        export, mask, border code, border value and buffer size."""
+        name = pick(cstem, src)
+        mw, mh = _mask(size)
+        code = border_code(border, border_in_memory, allowed)
+        got = np.zeros(1, np.int32)
+        getsize(roiSize=(src.shape[1], src.shape[0]), maskSize=(mw, mh),
+                dataType=_C["pelType" + token(src.dtype)], numChannels=c, pBufferSize=got)
+        if any(p.name == "borderValue" and p.pointer for p in ABI.prototype(name).params):
+            v = _pixel(value, c, src.dtype)
+        else:
+            v = values(value, c, src.dtype, "value")
+            if len(set(v)) != 1:
+                raise ValueError("value: %s takes one border value for every channel" % pyname)
+            v = v[0]
+        return bind(name), (mw, mh), code, v, int(got[0])
 
     def run(src, size=3, border="replicate", value=0, out=None, border_in_memory=()):
         c = channels(src, "src")
-        name = pick(cstem, src)
-        mw, mh = (size, size) if type(size) is int and size > 0 else _mask(size)
-        code = border_code(border, border_in_memory, allowed)
+        try:
+            key = (src.dtype, src.shape, size, border, value, border_in_memory)
+            p = plans[key]
+        except (KeyError, TypeError):  # new arguments, or a list among them
+            p = plan(src, c, size, border, value, border_in_memory)
+            if len(plans) > 256:
+                plans.clear()
+            try:
+                plans[key] = p
+            except TypeError:
+                pass
+        f, mask, code, v, n = p
         dst = output(out, src.shape, src.dtype)
-        key = (name, src.shape, mw, mh)
-        n = _sizes.get(key)
-        if n is None:
-            got = np.zeros(1, np.int32)
-            getsize(roiSize=(src.shape[1], src.shape[0]), maskSize=(mw, mh),
-                    dataType=_C["pelType" + token(src.dtype)], numChannels=c, pBufferSize=got)
-            if len(_sizes) > 256:
-                _sizes.clear()
-            n = _sizes[key] = int(got[0])
-        f = bind(name)
-        scalar = scalar_value.get(name)
-        if scalar is None:
-            scalar = scalar_value[name] = not any(p.name == "borderValue" and p.pointer
-                                                  for p in ABI.prototype(name).params)
-        if scalar:
-            v = values(value, 1, src.dtype, "value")[0] if np.ndim(value) == 0 else value
-            if np.ndim(v):
-                if len(set(v)) != 1:
-                    raise ValueError("value: %s takes one border value for every channel" % pyname)
-                v = values(v[0], 1, src.dtype, "value")[0]
-        else:
-            v = _pixel(value, c, src.dtype)
-        f(pSrc=src, pDst=dst, maskSize=(mw, mh), border=code, borderValue=v, pBuffer=_buffer(n))
+        f(pSrc=src, pDst=dst, maskSize=mask, border=code, borderValue=v, pBuffer=_buffer(n))
         return dst
 
     run.__name__ = pyname
@@ -200,7 +202,7 @@ _KERNEL_CACHE = 64
 def kernel_spec(kernel, dtype, c, divisor=1, round="near", offset=0):
     """The cached Kernel for these arguments."""
     k = kernel if type(kernel) is np.ndarray else np.asarray(kernel)
-    key = (k.tobytes(), k.shape, k.dtype, np.dtype(dtype), c, divisor, round, offset)
+    key = (k.tobytes(), k.shape, k.dtype, dtype, c, divisor, round, offset)
     spec = _kernels.get(key)
     if spec is None:
         spec = Kernel(k, dtype, c, divisor, round, offset)

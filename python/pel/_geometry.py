@@ -4,7 +4,7 @@ import threading
 import numpy as np
 
 from . import raw
-from ._core import ABI, Point, Size, bind, channels, check, output, pick, token, values
+from ._core import ABI, Point, Size, _addr, _struct, bind, channels, check, output, pick, token, values
 
 _INTERP = {"nearest": ("Nearest", ABI.constants["pelInterpolationNearest"]),
            "linear": ("Linear", ABI.constants["pelInterpolationLinear"])}
@@ -170,12 +170,14 @@ class Warp:
             raise TypeError("warp: no %s form for dtype %s with %d channels"
                             % (interpolation, self.dtype, c))
         self._f = raw.function(self.name).cfunc
+        self._spec_at = self.spec.ctypes.data
         self._local = threading.local()
 
     def buffer(self):
         buf = getattr(self._local, "buf", None)
         if buf is None:
             buf = self._local.buf = np.empty(self.bufsize, np.uint8)
+            self._local.at = buf.ctypes.data
         return buf
 
     def src_region(self, offset, size):
@@ -214,9 +216,12 @@ class Warp:
         step = src.strides[0]
         # The call takes source pixel (0, 0); the region's pixels are where
         # the tile reads, so the address of (0, 0) is computed, never read.
-        at = src.ctypes.data - origin[1] * step - origin[0] * c * src.itemsize
-        st = self._f(at, step, dst.ctypes.data, dst.strides[0], Point(*offset), Size(*size),
-                     self.spec.ctypes.data, self.buffer().ctypes.data)
+        at = _addr(src)
+        if origin != (0, 0):
+            at -= origin[1] * step + origin[0] * c * src.itemsize
+        buf = getattr(self._local, "at", None) or self.buffer().ctypes.data
+        st = self._f(at, step, _addr(dst), dst.strides[0], _struct(Point, offset),
+                     _struct(Size, size), self._spec_at, buf)
         if st:
             check(st, self.name)
         return dst
@@ -228,10 +233,11 @@ _warps = {}
 def warper(kind, dtype, c, src_size, dst_size, matrix, interpolation="linear", inverse=False,
            border="constant", value=0, cubic=(0.0, 0.75)):
     """The cached Warp for these arguments."""
-    m = np.asarray(matrix, np.float64)
-    key = (kind, np.dtype(dtype), c, tuple(src_size), tuple(dst_size), m.tobytes(), m.shape,
-           interpolation, bool(inverse), border, value if np.ndim(value) == 0 else tuple(value),
-           tuple(cubic))
+    m = matrix if type(matrix) is np.ndarray and matrix.dtype == np.float64 else \
+        np.asarray(matrix, np.float64)
+    key = (kind, dtype, c, src_size, dst_size, m.tobytes(), m.shape, interpolation, inverse,
+           border, value if type(value) in (int, float) or np.ndim(value) == 0 else tuple(value),
+           cubic if type(cubic) is tuple else tuple(cubic))
     w = _warps.get(key)
     if w is None:
         w = Warp(kind, dtype, c, src_size, dst_size, m, interpolation, inverse, border, value, cubic)
@@ -246,9 +252,7 @@ def _warp(kind):
     def run(src, matrix, size=None, interpolation="linear", border="constant", value=0,
             inverse=False, cubic=(0.0, 0.75), out=None):
         c = channels(src, "src")
-        if size is None:
-            size = (src.shape[1], src.shape[0])
-        size = (int(size[0]), int(size[1]))
+        size = (src.shape[1], src.shape[0]) if size is None else (int(size[0]), int(size[1]))
         w = warper(kind, src.dtype, c, (src.shape[1], src.shape[0]), size, matrix,
                    interpolation, inverse, border, value, cubic)
         return w.tile(src, (0, 0), (0, 0), size, out)

@@ -3,11 +3,15 @@ import numpy as np
 
 from ._core import bind, channels, forms, output, pick, token
 
+_ELEM = {np.dtype(np.float32): np.dtype(np.float32)}  # curves of the others are int32
+_TABLE_LEVELS = np.arange(257, dtype=np.int32)
 _KINDS = {"step": "peliLUT", "linear": "peliLUT_Linear", "cubic": "peliLUT_Cubic"}
 
 
 def _curves(v, c, dtype, what):
     """c contiguous 1-D arrays of dtype: one curve for every channel, or one a channel."""
+    if type(v) is np.ndarray and v.ndim == 1 and v.dtype == dtype and v.flags.c_contiguous:
+        return [v] * c
     if isinstance(v, np.ndarray) and v.ndim == 1 or \
             not isinstance(v, np.ndarray) and len(v) and np.ndim(v[0]) == 0:
         return [np.ascontiguousarray(v, dtype)] * c
@@ -31,26 +35,25 @@ def lut(src, values, levels=None, kind="step", out=None):
         raise ValueError("kind: expected one of %s, got %r" % (", ".join(_KINDS), kind))
     inplace = out is src
     name = pick(stem, src, "IR" if inplace else "R")
-    et = np.float32 if src.dtype == np.float32 else np.int32
+    et = _ELEM.get(src.dtype, np.int32)
     if levels is None:
         if src.dtype != np.uint8 or np.shape(values)[-1] != 256:
             raise ValueError("levels: needed unless src is uint8 and there are 256 values")
-        levels = np.arange(257, dtype=np.int32)
+        levels = _TABLE_LEVELS
     lv = _curves(levels, c, et, "levels")
     vs = _curves(values, c, et, "values")
-    for i, (l, v) in enumerate(zip(lv, vs)):
+    # A step curve reads one value fewer than it has levels.
+    short = 1 if kind == "step" else 0
+    for l, v in zip(lv, vs):
         if len(l) < 2:
             raise ValueError("levels: expected at least 2 levels, got %d" % len(l))
-        if kind == "step" and len(v) == len(l) - 1:
-            vs[i] = v = np.append(v, v[-1:]).astype(et)  # the last value is never read
-        if len(v) != len(l):
+        if not len(l) - short <= len(v) <= len(l):
             raise ValueError("values: expected %d values (one a level), got %d" % (len(l), len(v)))
-    n = np.array([len(l) for l in lv], np.int32)
     f = bind(name)
     if c == 1:
         kw = {"pValues": vs[0], "pLevels": lv[0], "nLevels": len(lv[0])}
     else:
-        kw = {"pValues": vs, "pLevels": lv, "nLevels": n}
+        kw = {"pValues": vs, "pLevels": lv, "nLevels": np.array([len(l) for l in lv], np.int32)}
     if inplace:
         f(pSrcDst=src, **kw)
         return src
