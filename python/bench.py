@@ -10,7 +10,8 @@
 3. --dask: pel.filter2d with a 5 x 5 kernel through pel.dask.filter on an
    8192 x 8192 float32 image, on a LocalCluster of one and of two workers.
 Names after the options pick the cases whose name contains one of them.
-Times are the least of several runs in thread CPU time (1, 2) and wall time (3).
+Times (1, 2) are the least of 15 rounds that run every contender in turn,
+in thread CPU time; (3) is wall time.
 """
 import os
 import sys
@@ -23,17 +24,6 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import cv2  # noqa: E402
 import pel  # noqa: E402
 from pel import _core, raw  # noqa: E402
-
-
-def best(f, seconds=0.3):
-    """The least time a call, in thread CPU time: other processes on the
-    machine then disturb the numbers less than in wall time."""
-    n, t = 1, 0.0
-    timer = timeit.Timer(f, timer=time.thread_time)
-    while t < seconds / 5:
-        n *= 2
-        t = timer.timeit(number=n)
-    return min(timer.repeat(number=n, repeat=5)) / n
 
 
 def prepared(name, *arrays_and_args):
@@ -134,6 +124,21 @@ def filter_cases(h, w, a8, c8, f32, o8, o83, of, S):
     ]
 
 
+def interleaved(fns, rounds=15, seconds=0.01):
+    """The least time a call of each function, in thread CPU time, over
+    rounds that run every function once in turn: a burst of load on the
+    machine then hits all of them alike."""
+    timers = [timeit.Timer(f, timer=time.thread_time) for f in fns]
+    n = 1
+    while timers[0].timeit(number=n) < seconds:
+        n *= 2
+    best_t = [1e9] * len(fns)
+    for _ in range(rounds):
+        for i, t in enumerate(timers):
+            best_t[i] = min(best_t[i], t.timeit(number=n) / n)
+    return best_t
+
+
 def calls(only=None):
     print("%-18s %10s %10s %9s | %10s %10s %8s %8s" % (
         "operation", "64x64 py", "64x64 C", "overhead", "1080p py", "1080p C", "C/py", "cv2/py"))
@@ -141,11 +146,8 @@ def calls(only=None):
     for (name, py, c, _), (_, py2, c2, cv) in zip(small, large):
         if only and not any(o in name for o in only):
             continue
-        # Alternate the contenders so that a burst of load hits all of them.
-        tp = tc = tp2 = tc2 = tcv = 1e9
-        for _ in range(3):
-            tp, tc = min(tp, best(py, 0.1)), min(tc, best(c, 0.1))
-            tp2, tc2, tcv = min(tp2, best(py2, 0.1)), min(tc2, best(c2, 0.1)), min(tcv, best(cv, 0.1))
+        tp, tc = interleaved([py, c])
+        tp2, tc2, tcv = interleaved([py2, c2, cv])
         print("%-18s %8.2fus %8.2fus %7.2fus | %8.1fus %8.1fus %8.3f %8.2f" % (
             name, tp * 1e6, tc * 1e6, (tp - tc) * 1e6, tp2 * 1e6, tc2 * 1e6, tc2 / tp2, tcv / tp2))
 

@@ -26,16 +26,36 @@ def _reduce(stem, what, src, **kw):
     return _result(res, c)
 
 
+_plans = {}
+
+
+def _plan(stem, src, accurate):
+    """The bound export and its keyword arguments for one (stem, dtype,
+    channels, hint): a repeated call checks the image and calls."""
+    key = (stem, src.dtype, src.shape[2] if src.ndim == 3 else 1, accurate)
+    p = _plans.get(key)
+    if p is None:
+        name = pick(stem, src)
+        p = _plans[key] = (bind(name), _first_out(name), _hint(stem, src, accurate))
+    return p
+
+
+def _sum_like(stem, src, accurate):
+    c = channels(src, "src")
+    f, out, kw = _plan(stem, src, accurate)
+    res = np.empty(c, np.float64)
+    f(pSrc=src, **{out: res}, **kw)
+    return res[0].item() if c == 1 else tuple(x.item() for x in res)
+
+
 def sum(src, accurate=False):
     """The sum of each channel."""
-    kw = _hint("peliSum", src, accurate)
-    return _reduce("peliSum", "sum", src, **kw)
+    return _sum_like("peliSum", src, accurate)
 
 
 def mean(src, accurate=False):
     """The mean of each channel."""
-    kw = _hint("peliMean", src, accurate)
-    return _reduce("peliMean", "mean", src, **kw)
+    return _sum_like("peliMean", src, accurate)
 
 
 _hinted = {}
