@@ -387,7 +387,18 @@ HWY_NOINLINE hn::Vec<DI> Quotients8uWithZero(VF num, VF den, int mode, bool clam
   const DI di;
   const MF zero = hn::Eq(den, hn::Zero(df));
   MF slow;
-  GroupsWithZero(&zero, &slow);
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (kLanes == 16) {
+    // Two groups of eight: each half of the mask spreads to its whole half.
+    const unsigned bits = zero.raw;
+    slow = MF{static_cast<__mmask16>(((bits & 0xFFu) ? 0xFFu : 0u) | ((bits & 0xFF00u) ? 0xFF00u : 0u))};
+  } else
+#endif
+  if constexpr (kLanes == 8) {
+    slow = hn::FirstN(df, 8);  // the vector is one group
+  } else {
+    GroupsWithZero(&zero, &slow);
+  }
   den = hn::IfThenElse(zero, hn::Set(df, 1.0f), den);
   VF q = hn::IfThenElse(slow, hn::Div(num, den), RecipQuotient8u(num, den));
   if (clamp) q = hn::Min(q, hn::Set(df, 255.0f));
