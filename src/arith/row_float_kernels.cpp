@@ -380,9 +380,8 @@ size_t IntDivLoop(const T* s1, const T* s2, T* d, size_t n, int s, int mode, boo
 // 8u quotients of one vector that holds a zero divisor (one vector is a
 // block of whole groups of eight here): its groups with a zero divide
 // exactly, the others take the reciprocal, and zero divisors give 255 or 0.
-// Out of line, and taking and giving vectors, so that the common step keeps
-// everything in registers.
-HWY_NOINLINE hn::Vec<DI> Quotients8uWithZero(VF num, VF den, int mode, bool clamp) {
+// Inline: a call would have every vector register saved around it.
+HWY_INLINE hn::Vec<DI> Quotients8uWithZero(VF num, VF den, int mode, bool clamp) {
   const DF df;
   const DI di;
   const MF zero = hn::Eq(den, hn::Zero(df));
@@ -428,19 +427,24 @@ size_t Div8uLoop(const uint8_t* s1, const uint8_t* s2, uint8_t* d, size_t n, int
   bool met = false;
   size_t i = 0;
   for (; i + kV * kLanes <= n; i += kV * kLanes) {
+    // Every load of the step first: rows that come from memory rather than
+    // cache keep more of them in flight.
+    VF den[kV], num[kV];
+    for (size_t k = 0; k < kV; ++k) {
+      den[k] = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s1 + i + k * kLanes)));
+      num[k] = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s2 + i + k * kLanes)));
+    }
     hn::Vec<DI> r[kV];
     for (size_t k = 0; k < kV; ++k) {
-      VF den = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s1 + i + k * kLanes)));
-      if constexpr (kAlpha) den = hn::IfThenElse(colourF, den, one);
-      VF num = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s2 + i + k * kLanes)));
-      if constexpr (kShift < 0) num = hn::Mul(num, numScale);
-      if constexpr (kShift > 0) den = hn::Mul(den, denScale);
-      if (HWY_UNLIKELY(!hn::AllFalse(df, hn::Eq(den, zeroF)))) {
+      if constexpr (kAlpha) den[k] = hn::IfThenElse(colourF, den[k], one);
+      if constexpr (kShift < 0) num[k] = hn::Mul(num[k], numScale);
+      if constexpr (kShift > 0) den[k] = hn::Mul(den[k], denScale);
+      if (HWY_UNLIKELY(!hn::AllFalse(df, hn::Eq(den[k], zeroF)))) {
         met = true;
-        r[k] = Quotients8uWithZero(num, den, m, kShift < 0);
+        r[k] = Quotients8uWithZero(num[k], den[k], m, kShift < 0);
         continue;
       }
-      VF q = RecipQuotient8u(num, den);
+      VF q = RecipQuotient8u(num[k], den[k]);
       // A shifted dividend can exceed any range; otherwise every quotient
       // lies within 255 but for a half, which narrowing saturates.
       if constexpr (kShift < 0) q = hn::Min(q, hi);
