@@ -214,11 +214,12 @@ size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool* 
   constexpr size_t kV = 4;  // a multiple of kGroupVectors
   size_t i = 0;
   for (; i + kV * kLanes <= n; i += kV * kLanes) {
-    VF dv[kV];
+    VF dv[kV], nv[kV];
     hn::Vec<DI> a[kV];
     auto ordinary = hn::Set(du, 0u);
     for (size_t k = 0; k < kV; ++k) {
       dv[k] = hn::LoadU(df, s1 + i + k * kLanes);
+      nv[k] = hn::LoadU(df, s2 + i + k * kLanes);
       if constexpr (kAlpha) dv[k] = hn::IfThenElse(colour, dv[k], one);
       a[k] = hn::And(hn::BitCast(di, dv[k]), hn::Set(di, 0x7FFFFFFF));
       // Magnitudes in [2^-126, 2^126): a - 2^-126 below 0x7E000000 unsigned.
@@ -226,8 +227,7 @@ size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool* 
     }
     if (HWY_LIKELY(hn::AllTrue(du, hn::Lt(ordinary, hn::Set(du, 0x7E000000u))))) {
       for (size_t k = 0; k < kV; ++k) {
-        const VF nv = hn::LoadU(df, s2 + i + k * kLanes);
-        StoreLanes(df, RecipDivOrdinary(nv, dv[k], a[k]), d + i + k * kLanes, kAlpha, colour);
+        StoreLanes(df, RecipDivOrdinary(nv[k], dv[k], a[k]), d + i + k * kLanes, kAlpha, colour);
       }
       continue;
     }
