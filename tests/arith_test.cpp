@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -64,6 +65,43 @@ TEST_P(EveryPair, MatchesModel) {
 INSTANTIATE_TEST_SUITE_P(Arith8u, EveryPair,
                          ::testing::Values("peliAdd_8u_C1RSfs", "peliSub_8u_C1RSfs", "peliMul_8u_C1RSfs",
                                            "peliDiv_8u_C1RSfs", "peliDiv_Round_8u_C1RSfs"));
+
+// 8u quotients of every pair at every scale factor up to the two shortcuts
+// and in every rounding mode: each dispatch level gives the scalar
+// reference's bytes (the rows check the reference against the model at
+// their scale factors). Divisors run along rows (zeros in row 0 only) and
+// along columns (a zero in every row's first group), so that each pair
+// meets both the reciprocal and the exact path.
+TEST(Div8u, EveryPairAtEveryScaleOnEveryLevel) {
+  std::vector<Pel8u> a(65536), b(65536), want(65536), got(65536);
+  auto run = [&](std::vector<Pel8u>& out, int s, int mode) {
+    const PeliSize roi{256, 256};
+    return mode < 0 ? peliDiv_8u_C1RSfs(a.data(), 256, b.data(), 256, out.data(), 256, roi, s)
+                    : peliDiv_Round_8u_C1RSfs(a.data(), 256, b.data(), 256, out.data(), 256, roi, PelRoundMode(mode), s);
+  };
+  const std::vector<int64_t> levels = peltest::CpuLevels();
+  for (int by = 0; by < 2; ++by) {
+    for (int i = 0; i < 65536; ++i) {
+      a[size_t(i)] = Pel8u(by ? i >> 8 : i & 255);  // divisor
+      b[size_t(i)] = Pel8u(by ? i & 255 : i >> 8);  // dividend
+    }
+    for (int s = -17; s <= 10; ++s) {
+      for (int mode = -1; mode <= 2; ++mode) {  // -1: Div
+        {
+          peltest::CpuLevelScope scalar(levels.front());
+          ASSERT_EQ(run(want, s, mode), pelStatusDivByZeroWarning);
+        }
+        for (size_t l = 1; l < levels.size(); ++l) {
+          peltest::CpuLevelScope level(levels[l]);
+          ASSERT_EQ(run(got, s, mode), pelStatusDivByZeroWarning);
+          const size_t at = size_t(std::mismatch(want.begin(), want.end(), got.begin()).first - want.begin());
+          EXPECT_EQ(at, want.size()) << peltest::CpuLevelName(levels[l]) << " s " << s << " mode " << mode << ": "
+                                      << int(b[at % 65536]) << " / " << int(a[at % 65536]);
+        }
+      }
+    }
+  }
+}
 
 // ---- The worked examples ---------------------------------------------------------------
 

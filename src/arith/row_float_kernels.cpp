@@ -180,10 +180,32 @@ HWY_INLINE void FloatDivBlock(const VF* dv, const VF* nv, float* d, bool alpha, 
   }
 }
 
+// One step of four vectors that holds a divisor out of the ordinary: each
+// block of whole groups goes alone. Kept out of line and reloading its
+// operands, so that the common step keeps them in registers.
+HWY_NOINLINE void FloatDivStepSlow(const float* s1, const float* s2, float* d, bool alpha,
+                                   bool* marked) {
+  const DF df;
+  const auto colour = ColourLanes(df);
+  const auto one = hn::Set(df, 1.0f);
+  constexpr size_t kV = 4;
+  VF dv[kV], nv[kV];
+  for (size_t k = 0; k < kV; ++k) {
+    dv[k] = hn::LoadU(df, s1 + k * kLanes);
+    if (alpha) dv[k] = hn::IfThenElse(colour, dv[k], one);
+    nv[k] = hn::LoadU(df, s2 + k * kLanes);
+  }
+  for (size_t k = 0; k < kV; k += kGroupVectors) {
+    FloatDivBlock(dv + k, nv + k, d + k * kLanes, alpha, colour, marked);
+  }
+}
+
 // Four vectors a step; when every divisor is ordinary (the common case) all
-// four take the short path, else each block of whole groups goes alone.
-size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool alpha,
-                    bool* marked) {
+// four take the short path, else the step goes to FloatDivStepSlow. Nothing
+// of a step is stored before its divisors are checked, so the slow step may
+// reload sources that the destination overwrites (in place).
+template <bool kAlpha>
+size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool* marked) {
   const DF df;
   const DI di;
   const hn::RebindToUnsigned<DF> du;
@@ -197,21 +219,19 @@ size_t FloatDivLoop(const float* s1, const float* s2, float* d, size_t n, bool a
     auto ordinary = hn::Set(du, 0u);
     for (size_t k = 0; k < kV; ++k) {
       dv[k] = hn::LoadU(df, s1 + i + k * kLanes);
-      if (alpha) dv[k] = hn::IfThenElse(colour, dv[k], one);
       nv[k] = hn::LoadU(df, s2 + i + k * kLanes);
+      if constexpr (kAlpha) dv[k] = hn::IfThenElse(colour, dv[k], one);
       a[k] = hn::And(hn::BitCast(di, dv[k]), hn::Set(di, 0x7FFFFFFF));
       // Magnitudes in [2^-126, 2^126): a - 2^-126 below 0x7E000000 unsigned.
       ordinary = hn::Max(ordinary, hn::BitCast(du, hn::Sub(a[k], hn::Set(di, 0x00800000))));
     }
     if (HWY_LIKELY(hn::AllTrue(du, hn::Lt(ordinary, hn::Set(du, 0x7E000000u))))) {
       for (size_t k = 0; k < kV; ++k) {
-        StoreLanes(df, RecipDivOrdinary(nv[k], dv[k], a[k]), d + i + k * kLanes, alpha, colour);
+        StoreLanes(df, RecipDivOrdinary(nv[k], dv[k], a[k]), d + i + k * kLanes, kAlpha, colour);
       }
       continue;
     }
-    for (size_t k = 0; k < kV; k += kGroupVectors) {
-      FloatDivBlock(dv + k, nv + k, d + i + k * kLanes, alpha, colour, marked);
-    }
+    FloatDivStepSlow(s1 + i, s2 + i, d + i, kAlpha, marked);
   }
   return i;
 }
@@ -357,6 +377,102 @@ size_t IntDivLoop(const T* s1, const T* s2, T* d, size_t n, int s, int mode, boo
   return i;
 }
 
+// 8u quotients of one vector that holds a zero divisor (one vector is a
+// block of whole groups of eight here): its groups with a zero divide
+// exactly, the others take the reciprocal, and zero divisors give 255 or 0.
+// Inline: a call would have every vector register saved around it.
+HWY_INLINE hn::Vec<DI> Quotients8uWithZero(VF num, VF den, int mode, bool clamp) {
+  const DF df;
+  const DI di;
+  const MF zero = hn::Eq(den, hn::Zero(df));
+  MF slow;
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (kLanes == 16) {
+    // Two groups of eight: each half of the mask spreads to its whole half.
+    const unsigned bits = zero.raw;
+    slow = MF{static_cast<__mmask16>(((bits & 0xFFu) ? 0xFFu : 0u) | ((bits & 0xFF00u) ? 0xFF00u : 0u))};
+  } else
+#endif
+  if constexpr (kLanes == 8) {
+    slow = hn::FirstN(df, 8);  // the vector is one group
+  } else {
+    GroupsWithZero(&zero, &slow);
+  }
+  den = hn::IfThenElse(zero, hn::Set(df, 1.0f), den);
+  VF q = hn::IfThenElse(slow, hn::Div(num, den), RecipQuotient8u(num, den));
+  if (clamp) q = hn::Min(q, hn::Set(df, 255.0f));
+  const auto byZero = hn::IfThenElse(hn::RebindMask(di, hn::Gt(num, hn::Zero(df))), hn::Set(di, 255), hn::Zero(di));
+  return hn::IfThenElse(hn::RebindMask(di, zero), byZero, RoundByMode(q, mode));
+}
+
+// 8u division four vectors a step, with the per-call choices (AC4 lanes,
+// which operand the scale factor shifts, the clamp of a shifted dividend)
+// fixed at compile time. Vectors of at least eight lanes: each is a block of
+// whole groups and decides alone.
+template <bool kNearest, bool kAlpha, int kShift>  // kShift: the sign of s
+size_t Div8uLoop(const uint8_t* s1, const uint8_t* s2, uint8_t* d, size_t n, int s, int mode,
+                 bool* marked) {
+  const DF df;
+  const DI di;
+  const hn::Rebind<uint8_t, DF> dn;
+  constexpr size_t kV = 4;
+  const auto colourF = ColourLanes(df);
+  const auto one = hn::Set(df, 1.0f);
+  const auto zeroF = hn::Zero(df);
+  const scalar::DivScale scale(s);
+  const auto numScale = hn::Set(df, scale.dividend);
+  const auto denScale = hn::Set(df, scale.divisor);
+  const auto hi = hn::Set(df, 255.0f);
+  const int m = kNearest ? 1 : mode;
+  bool met = false;
+  size_t i = 0;
+  for (; i + kV * kLanes <= n; i += kV * kLanes) {
+    // Every load of the step first: rows that come from memory rather than
+    // cache keep more of them in flight.
+    VF den[kV], num[kV];
+    for (size_t k = 0; k < kV; ++k) {
+      den[k] = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s1 + i + k * kLanes)));
+      num[k] = hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dn, s2 + i + k * kLanes)));
+    }
+    hn::Vec<DI> r[kV];
+    for (size_t k = 0; k < kV; ++k) {
+      if constexpr (kAlpha) den[k] = hn::IfThenElse(colourF, den[k], one);
+      if constexpr (kShift < 0) num[k] = hn::Mul(num[k], numScale);
+      if constexpr (kShift > 0) den[k] = hn::Mul(den[k], denScale);
+      if (HWY_UNLIKELY(!hn::AllFalse(df, hn::Eq(den[k], zeroF)))) {
+        met = true;
+        r[k] = Quotients8uWithZero(num[k], den[k], m, kShift < 0);
+        continue;
+      }
+      VF q = RecipQuotient8u(num[k], den[k]);
+      // A shifted dividend can exceed any range; otherwise every quotient
+      // lies within 255 but for a half, which narrowing saturates.
+      if constexpr (kShift < 0) q = hn::Min(q, hi);
+      r[k] = RoundByMode(q, m);
+    }
+    Pack4<uint8_t>(r, d + i, kAlpha);
+  }
+  *marked = met;
+  return i;
+}
+
+template <bool kNearest>
+size_t Div8u(const uint8_t* s1, const uint8_t* s2, uint8_t* d, size_t n, int s, int mode, bool alpha,
+             bool* marked) {
+  if constexpr (kGroupVectors > 1) {
+    return IntDivLoop<uint8_t, kNearest>(s1, s2, d, n, s, mode, alpha, marked);
+  } else {
+    if (alpha) {
+      if (s < 0) return Div8uLoop<kNearest, true, -1>(s1, s2, d, n, s, mode, marked);
+      if (s > 0) return Div8uLoop<kNearest, true, 1>(s1, s2, d, n, s, mode, marked);
+      return Div8uLoop<kNearest, true, 0>(s1, s2, d, n, s, mode, marked);
+    }
+    if (s < 0) return Div8uLoop<kNearest, false, -1>(s1, s2, d, n, s, mode, marked);
+    if (s > 0) return Div8uLoop<kNearest, false, 1>(s1, s2, d, n, s, mode, marked);
+    return Div8uLoop<kNearest, false, 0>(s1, s2, d, n, s, mode, marked);
+  }
+}
+
 template <class T>
 size_t IntScaleLoop(const T* src, const float* f, size_t period, Cursor& cursor, T* d, size_t n,
                     bool alpha) {
@@ -400,7 +516,8 @@ void FloatBinaryRowTarget(Op op, Operand src1, Operand src2, float* d, size_t n,
 
 bool FloatDivRowTarget(const float* s1, const float* s2, float* d, size_t n, bool alpha) {
   bool marked = false;
-  const size_t done = PEL_VECTOR(FloatDivLoop(s1, s2, d, n, alpha, &marked));
+  const size_t done = alpha ? PEL_VECTOR(FloatDivLoop<true>(s1, s2, d, n, &marked))
+                            : PEL_VECTOR(FloatDivLoop<false>(s1, s2, d, n, &marked));
   // done is a whole number of groups of eight: the rest keeps its groups.
   return scalar::FloatDivRow(s1 + done, s2 + done, d + done, n - done, alpha) || marked;
 }
@@ -414,9 +531,14 @@ bool IntDivRowTarget(Elem e, const void* src1, const void* src2, void* dst, size
       const T* s2 = static_cast<const T*>(src2);
       T* d = static_cast<T*>(dst);
       bool marked = false;
-      const size_t done =
-          mode == 1 ? PEL_VECTOR((IntDivLoop<T, true>(s1, s2, d, n, s, mode, alpha, &marked)))
-                    : PEL_VECTOR((IntDivLoop<T, false>(s1, s2, d, n, s, mode, alpha, &marked)));
+      size_t done;
+      if constexpr (std::is_same_v<T, uint8_t>) {
+        done = mode == 1 ? PEL_VECTOR((Div8u<true>(s1, s2, d, n, s, mode, alpha, &marked)))
+                         : PEL_VECTOR((Div8u<false>(s1, s2, d, n, s, mode, alpha, &marked)));
+      } else {
+        done = mode == 1 ? PEL_VECTOR((IntDivLoop<T, true>(s1, s2, d, n, s, mode, alpha, &marked)))
+                         : PEL_VECTOR((IntDivLoop<T, false>(s1, s2, d, n, s, mode, alpha, &marked)));
+      }
       return scalar::IntDivRow<T>(s1 + done, s2 + done, d + done, n - done, s, mode, alpha) ||
              marked;
     }

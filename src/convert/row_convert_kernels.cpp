@@ -4,11 +4,11 @@
 //
 // Each pair computes in lanes of one working type: float when either side is
 // float, otherwise the wider of the two. Every vector step is exact or
-// rounds as the reference does (Round and Trunc carry their own rounding
-// direction; the clamps are min(x, max) with the maximum second, which takes
-// NaN to the maximum), so all targets give the reference's bytes. A row ends
-// in the scalar reference; AC4 rows keep the destination's alpha by blending
-// it back in before each store.
+// rounds as the reference does (see ClampRound for floats to integers), so
+// all targets give the reference's bytes. Floats to 8- and 16-bit lanes are
+// narrowed several vectors at a time into one full store. A row ends in the
+// scalar reference; AC4 rows keep the destination's alpha by blending it
+// back in before each store.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "convert/row_convert_kernels.cpp"
 #include "hwy/foreach_target.h"  // IWYU pragma: keep
@@ -19,6 +19,7 @@
 #include "convert/row_convert_kernels.h"
 #include "hwy/cache_control.h"
 #include "hwy/highway.h"
+#include "core/narrow-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace pel::convert::HWY_NAMESPACE {
@@ -50,14 +51,25 @@ HWY_INLINE hn::Vec<DW> LoadAs(DW dw, const S* HWY_RESTRICT p) {
   }
 }
 
-template <int kMode, class DF>
-HWY_INLINE hn::Vec<DF> RoundBy(DF df, hn::Vec<DF> v) {
+// Float lanes to int32, rounded by kMode, for a destination D of up to 16
+// bits that the caller narrows with saturation. Only the upper clamp is
+// done here, min(x, max) with the maximum second so that NaN becomes the
+// maximum; values below D's minimum round to integers at or below it (very
+// negative ones and -inf to INT32_MIN), which the saturating narrowing takes
+// to the minimum, as rounding after the lower clamp would. Mode 0 is the
+// truncating conversion itself, mode 2 adds 0.5 with the sign first, and
+// mode 1 converts in the processor's rounding, which every caller of mode 1
+// has set to nearest for the call.
+template <class D, int kMode, class DF>
+HWY_INLINE auto ClampRound(DF df, hn::Vec<DF> v) {
+  namespace pn = pel::HWY_NAMESPACE;
+  v = hn::Min(v, hn::Set(df, static_cast<float>(std::numeric_limits<D>::max())));
   if constexpr (kMode == 0) {
-    return hn::Trunc(v);
+    return pn::TruncInRange(v);
   } else if constexpr (kMode == 1) {
-    return hn::Round(v);
+    return pn::NearestInRange(v);
   } else {
-    return hn::Trunc(hn::Add(v, hn::CopySign(hn::Set(df, 0.5f), v)));
+    return pn::TruncInRange(hn::Add(v, hn::CopySign(hn::Set(df, 0.5f), v)));
   }
 }
 
@@ -70,10 +82,7 @@ HWY_INLINE auto ToDestination(DW dw, hn::Vec<DW> v) {
   if constexpr (std::is_same_v<W, D>) {
     return v;
   } else if constexpr (std::is_same_v<W, float>) {
-    const auto hi = hn::Set(dw, static_cast<float>(std::numeric_limits<D>::max()));
-    const auto lo = hn::Set(dw, static_cast<float>(std::numeric_limits<D>::min()));
-    v = hn::Max(hn::Min(v, hi), lo);
-    return hn::DemoteTo(dd, hn::ConvertTo(hn::Rebind<int32_t, DW>(), RoundBy<kMode>(dw, v)));
+    return hn::DemoteTo(dd, ClampRound<D, kMode>(dw, v));
   } else if constexpr (std::is_same_v<W, uint16_t>) {
     const auto clamped = hn::Min(v, hn::Set(dw, uint16_t{255}));
     return hn::DemoteTo(dd, hn::BitCast(hn::RebindToSigned<DW>(), clamped));
@@ -113,9 +122,35 @@ void ConvertRowT(const ConvertJob& job, const S* HWY_RESTRICT src, D* HWY_RESTRI
   // One loop per combination of the per-row choices, so that none of them
   // costs a branch per vector; two vectors a step.
   auto loop = [&](auto kAffine, auto kAlpha, auto kStream) {
-    auto one = [&](size_t at) {
+    auto load = [&](size_t at) {
       auto v = LoadAs(dw, src + at);
       if constexpr (kAffine()) v = hn::Add(hn::Mul(v, mul), add);
+      return v;
+    };
+    // Floats to 8- or 16-bit lanes: as many vectors as fill one full vector
+    // of D a step, narrowed together and stored once.
+    if constexpr (std::is_same_v<W, float> && sizeof(D) < 4) {
+      constexpr size_t K = 4 / sizeof(D);
+      const hn::ScalableTag<D> dfull;
+      const hn::RebindToUnsigned<decltype(dfull)> dufull;
+      const auto alphaFull = hn::RebindMask(
+          dfull, hn::Eq(hn::And(hn::Iota(dufull, static_cast<U>(i & 3)), hn::Set(dufull, U{3})),
+                        hn::Set(dufull, U{3})));
+      for (; i + K * N <= n; i += K * N) {
+        decltype(ClampRound<D, kMode>(dw, hn::Zero(dw))) r[K];
+        for (size_t k = 0; k < K; ++k) r[k] = ClampRound<D, kMode>(dw, load(i + k * N));
+        hn::Vec<decltype(dfull)> out;
+        if constexpr (K == 4) {
+          out = pel::HWY_NAMESPACE::Narrow4<D>(r[0], r[1], r[2], r[3]);
+        } else {
+          out = pel::HWY_NAMESPACE::Narrow2<D>(r[0], r[1]);
+        }
+        if constexpr (kAlpha()) out = hn::IfThenElse(alphaFull, hn::LoadU(dfull, dst + i), out);
+        hn::StoreU(out, dfull, dst + i);
+      }
+    }
+    auto one = [&](size_t at) {
+      auto v = load(at);
       auto out = ToDestination<D, kMode>(dw, v);
       if constexpr (kAlpha()) out = hn::IfThenElse(alphaLanes, hn::LoadU(dd, dst + at), out);
       if constexpr (kStream()) {
