@@ -23,7 +23,6 @@
 #include "datamove/pixel_rows.h"
 #include "datamove/row_mirror_kernels.h"
 #include "hwy/highway.h"
-#include "core/pixels-inl.h"
 
 #ifndef PEL_DATAMOVE_ROW_MIRROR_TABLES
 #define PEL_DATAMOVE_ROW_MIRROR_TABLES
@@ -115,9 +114,6 @@ void FrameRowTarget(const void* row, void* out, size_t width, size_t left, size_
 #else
 
 namespace {
-
-using pel::HWY_NAMESPACE::LoadPixels;
-using pel::HWY_NAMESPACE::StorePixels;
 
 template <size_t... I, class F>
 HWY_INLINE void UnrollSeq(std::index_sequence<I...>, F&& f) {
