@@ -407,9 +407,11 @@ void GatherT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan& plan)
 #undef PEL_GATHER_THREE
 
 // Bytes from s to d: the bytes up to d's first 64-byte boundary first, so
-// that the loop's stores never straddle two cache lines.
+// that the loop's stores never straddle two cache lines. The loads then
+// straddle one wherever s and d disagree modulo 64; with 32-byte vectors
+// at most every other one does, with 64-byte vectors every one.
 HWY_INLINE void CopyBytes(const uint8_t* s, uint8_t* d, size_t n) {
-  const hn::ScalableTag<uint8_t> tag;
+  const hn::CappedTag<uint8_t, 32> tag;
   const size_t N = hn::Lanes(tag);
   const size_t head = (64 - reinterpret_cast<uintptr_t>(d) % 64) % 64;
   if (n < head + 4 * N) {
