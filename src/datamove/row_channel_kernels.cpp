@@ -18,6 +18,7 @@
 #include "datamove/row_channel_kernels.h"
 #include "hwy/cache_control.h"
 #include "hwy/highway.h"
+#include "core/pixels-inl.h"
 
 #ifndef PEL_DATAMOVE_ROW_CHANNEL_KERNELS_VISIT
 #define PEL_DATAMOVE_ROW_CHANNEL_KERNELS_VISIT
@@ -93,25 +94,8 @@ namespace {
 #define PEL_BLOCK_INLINE __attribute__((always_inline))
 #endif
 
-template <int C, class D>
-HWY_INLINE void LoadPixels(D d, const hn::TFromD<D>* p, hn::Vec<D> (&v)[C]) {
-  static_assert(C == 3 || C == 4);
-  if constexpr (C == 3) {
-    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-  } else {
-    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-  }
-}
-
-template <int C, class D>
-HWY_INLINE void StorePixels(D d, const hn::Vec<D> (&v)[C], hn::TFromD<D>* p) {
-  static_assert(C == 3 || C == 4);
-  if constexpr (C == 3) {
-    hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
-  } else {
-    hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
-  }
-}
+using pel::HWY_NAMESPACE::LoadPixels;
+using pel::HWY_NAMESPACE::StorePixels;
 
 // body(i) for blocks of N pixels starting at i that together cover [0, n),
 // n >= N; the last block may overlap the one before it.

@@ -324,27 +324,50 @@ void GatherFourT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan& p
                     plan);
 }
 
-// Groups of 16 / sizeof(U) pixels: Ci input vectors, Co output vectors.
-template <class U, int Ci, int Co>
+// Groups of 16 / sizeof(U) pixels: Ci input vectors, Co output vectors of
+// 16 bytes. B consecutive groups go side by side in the 16-byte blocks of
+// one B x 16-byte vector, so that each shuffle serves all of them (the
+// tables are the same for every group).
+template <class U, int Ci, int Co, size_t B = 1>
 void GatherGroupsT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan& plan) {
-  const hn::Full128<uint8_t> d;
+  const hn::FixedTag<uint8_t, 16 * B> d;
+  const hn::Full128<uint8_t> d16;
   using V = hn::Vec<decltype(d)>;
   constexpr int E = sizeof(U);
   constexpr size_t G = 16 / E;
+  // The 16-byte part m of B groups lying `stride` bytes apart.
+  const auto load = [&](const uint8_t* p, size_t stride) HWY_ATTR {
+    if constexpr (B == 1) {
+      (void)stride;
+      return hn::LoadU(d, p);
+    } else {
+      static_assert(B == 2);
+      return hn::Combine(d, hn::LoadU(d16, p + stride), hn::LoadU(d16, p));
+    }
+  };
+  const auto store = [&](V v, uint8_t* p, size_t stride) HWY_ATTR {
+    if constexpr (B == 1) {
+      (void)stride;
+      hn::StoreU(v, d, p);
+    } else {
+      hn::StoreU(hn::LowerHalf(d16, v), d16, p);
+      hn::StoreU(hn::UpperHalf(d16, v), d16, p + stride);
+    }
+  };
   V table[Co][Ci];
   V fill[Co];
   V keep[Co];
   Unroll<Co>([&](auto k) HWY_ATTR {
-    fill[k()] = hn::Load(d, plan.fill[k()]);
-    keep[k()] = hn::Load(d, plan.keep[k()]);
+    fill[k()] = hn::LoadDup128(d, plan.fill[k()]);
+    keep[k()] = hn::LoadDup128(d, plan.keep[k()]);
     Unroll<Ci>([&](auto m) HWY_ATTR {
-      if constexpr (GatherReach(Ci, Co, E, k(), m())) table[k()][m()] = hn::Load(d, plan.table[k()][m()]);
+      if constexpr (GatherReach(Ci, Co, E, k(), m())) table[k()][m()] = hn::LoadDup128(d, plan.table[k()][m()]);
     });
   });
   size_t i = 0;
-  for (; i + G <= n; i += G) {
+  for (; i + B * G <= n; i += B * G) {
     V in[Ci];
-    Unroll<Ci>([&](auto m) HWY_ATTR { in[m()] = hn::LoadU(d, src + i * Ci * E + 16 * m()); });
+    Unroll<Ci>([&](auto m) HWY_ATTR { in[m()] = load(src + i * Ci * E + 16 * m(), 16 * Ci); });
     V out[Co];
     Unroll<Co>([&](auto k) HWY_ATTR {
       V acc = fill[k()];
@@ -358,27 +381,37 @@ void GatherGroupsT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan&
     Unroll<Co>([&](auto k) HWY_ATTR {
       uint8_t* p = dst + i * Co * E + 16 * k();
       V v = out[k()];
-      if (plan.anyKeep) v = hn::IfThenElse(hn::MaskFromVec(keep[k()]), hn::LoadU(d, p), v);
-      hn::StoreU(v, d, p);
+      if (plan.anyKeep) v = hn::IfThenElse(hn::MaskFromVec(keep[k()]), load(p, 16 * Co), v);
+      store(v, p, 16 * Co);
     });
   }
+  if constexpr (B > 1) return GatherGroupsT<U, Ci, Co, 1>(src + i * Ci * E, dst + i * Co * E, n - i, plan);
   scalar::GatherRow(reinterpret_cast<const U*>(src) + i * Ci, reinterpret_cast<U*>(dst) + i * Co,
                     n - i, plan);
 }
+
+#if HWY_MAX_BYTES > 16
+#define PEL_GATHER_THREE(Ci, Co) GatherGroupsT<U, Ci, Co, 2>
+#else
+#define PEL_GATHER_THREE(Ci, Co) GatherGroupsT<U, Ci, Co>
+#endif
 
 template <class U>
 void GatherT(const uint8_t* src, uint8_t* dst, size_t n, const GatherPlan& plan) {
   const int ci = plan.srcChannels, co = plan.dstChannels;
   if (ci == 4 && co == 4) return GatherFourT<U>(src, dst, n, plan);
-  if (ci == 3 && co == 3) return GatherGroupsT<U, 3, 3>(src, dst, n, plan);
-  if (ci == 3 && co == 4) return GatherGroupsT<U, 3, 4>(src, dst, n, plan);
-  if (ci == 4 && co == 3) return GatherGroupsT<U, 4, 3>(src, dst, n, plan);
+  if (ci == 3 && co == 3) return PEL_GATHER_THREE(3, 3)(src, dst, n, plan);
+  if (ci == 3 && co == 4) return PEL_GATHER_THREE(3, 4)(src, dst, n, plan);
+  if (ci == 4 && co == 3) return PEL_GATHER_THREE(4, 3)(src, dst, n, plan);
 }
+#undef PEL_GATHER_THREE
 
 // Bytes from s to d: the bytes up to d's first 64-byte boundary first, so
-// that the loop's stores never straddle two cache lines.
+// that the loop's stores never straddle two cache lines. The loads then
+// straddle one wherever s and d disagree modulo 64; with 32-byte vectors
+// at most every other one does, with 64-byte vectors every one.
 HWY_INLINE void CopyBytes(const uint8_t* s, uint8_t* d, size_t n) {
-  const hn::ScalableTag<uint8_t> tag;
+  const hn::CappedTag<uint8_t, 32> tag;
   const size_t N = hn::Lanes(tag);
   const size_t head = (64 - reinterpret_cast<uintptr_t>(d) % 64) % 64;
   if (n < head + 4 * N) {
