@@ -20,6 +20,7 @@
 #include "arith/row_scalar.h"
 #include "hwy/highway.h"
 #include "arith/row_common-inl.h"
+#include "core/narrow-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace pel::arith::HWY_NAMESPACE {
@@ -258,44 +259,17 @@ HWY_INLINE hn::Vec<DI> RoundByMode(VF q, int mode) {
 }
 
 // Four vectors of int32 to 4 x kLanes elements of T with saturation, in
-// order: the packing instructions work within 128-bit blocks, and one
-// permutation puts the blocks back in order.
+// order, with full-width stores.
 template <class T>
 HWY_INLINE void Pack4(const hn::Vec<DI>* r, T* d, bool alpha) {
   const hn::ScalableTag<T> dt;
   const auto colour = ColourLanes(dt);
-  constexpr bool kU16 = std::is_same_v<T, uint16_t>;
-#if HWY_TARGET <= HWY_AVX3
-  auto pack = [](__m512i a, __m512i b) { return kU16 ? _mm512_packus_epi32(a, b) : _mm512_packs_epi32(a, b); };
-  const __m512i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
   if constexpr (sizeof(T) == 1) {
-    const __m512i order = _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi32(order, _mm512_packus_epi16(lo, hi))}, d, alpha, colour);
+    StoreLanes(dt, pel::HWY_NAMESPACE::Narrow4<T>(r[0], r[1], r[2], r[3]), d, alpha, colour);
   } else {
-    const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi64(order, lo)}, d, alpha, colour);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm512_permutexvar_epi64(order, hi)}, d + 2 * kLanes, alpha, colour);
+    StoreLanes(dt, pel::HWY_NAMESPACE::Narrow2<T>(r[0], r[1]), d, alpha, colour);
+    StoreLanes(dt, pel::HWY_NAMESPACE::Narrow2<T>(r[2], r[3]), d + 2 * kLanes, alpha, colour);
   }
-#elif HWY_TARGET == HWY_AVX2
-  auto pack = [](__m256i a, __m256i b) { return kU16 ? _mm256_packus_epi32(a, b) : _mm256_packs_epi32(a, b); };
-  const __m256i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
-  if constexpr (sizeof(T) == 1) {
-    const __m256i order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permutevar8x32_epi32(_mm256_packus_epi16(lo, hi), order)}, d, alpha, colour);
-  } else {
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permute4x64_epi64(lo, 0xD8)}, d, alpha, colour);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm256_permute4x64_epi64(hi, 0xD8)}, d + 2 * kLanes, alpha, colour);
-  }
-#else
-  auto pack = [](__m128i a, __m128i b) { return kU16 ? _mm_packus_epi32(a, b) : _mm_packs_epi32(a, b); };
-  const __m128i lo = pack(r[0].raw, r[1].raw), hi = pack(r[2].raw, r[3].raw);
-  if constexpr (sizeof(T) == 1) {
-    StoreLanes(dt, hn::Vec<decltype(dt)>{_mm_packus_epi16(lo, hi)}, d, alpha, colour);
-  } else {
-    StoreLanes(dt, hn::Vec<decltype(dt)>{lo}, d, alpha, colour);
-    StoreLanes(dt, hn::Vec<decltype(dt)>{hi}, d + 2 * kLanes, alpha, colour);
-  }
-#endif
 }
 
 // Integer division, four vectors of lanes a step. In 8u rows the lanes

@@ -11,6 +11,7 @@
 #include "convert/row_threshold_kernels.h"
 #include "hwy/cache_control.h"
 #include "hwy/highway.h"
+#include "core/pixels-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace pel::convert::HWY_NAMESPACE {
@@ -124,17 +125,7 @@ void ThresholdType(const void* jobv, const void* srcv, void* dstv, size_t n) {
 
 // ---- Compare -------------------------------------------------------------------------
 
-// The C channel vectors of N pixels from p (or the fixed pixel's values).
-template <int C, class D, class V = hn::Vec<D>>
-HWY_INLINE void LoadPixels(D d, const hn::TFromD<D>* HWY_RESTRICT p, V* v) {
-  if constexpr (C == 1) {
-    v[0] = hn::LoadU(d, p);
-  } else if constexpr (C == 3) {
-    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-  } else {
-    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-  }
-}
+using pel::HWY_NAMESPACE::LoadPixels;
 
 template <int kOp, class D, class V = hn::Vec<D>>
 HWY_INLINE auto CompareVec(D d, V a, V b, V eps) {
