@@ -115,6 +115,32 @@ void ExtremeRow(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* 
   }
 }
 
+// The two passes of the separable extreme of integers (where the order of
+// the taps cannot change the result): the horizontal extreme of kw taps of
+// one extended row, and the vertical extreme of kh such rows. With `dst1`,
+// rows holds kh + 1 rows and dst1 gets the extreme of rows 1 .. kh.
+template <class T>
+void ExtremeHorizontal(bool max, int C, int kw, const uint8_t* row, T* dst, int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    T v = Load<T>(row, l);
+    for (int j = 1; j < kw; ++j) v = max ? MaxOf(v, Load<T>(row, l + j * C)) : MinOf(v, Load<T>(row, l + j * C));
+    dst[l] = v;
+  }
+}
+
+template <class T>
+void ExtremeVertical(bool max, int kh, const uint8_t* const* rows, T* dst0, T* dst1, int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    T v = Load<T>(rows[0], l);
+    for (int i = 1; i < kh; ++i) v = max ? MaxOf(v, Load<T>(rows[i], l)) : MinOf(v, Load<T>(rows[i], l));
+    dst0[l] = v;
+    if (dst1 == nullptr) continue;
+    v = Load<T>(rows[1], l);
+    for (int i = 2; i <= kh; ++i) v = max ? MaxOf(v, Load<T>(rows[i], l)) : MinOf(v, Load<T>(rows[i], l));
+    dst1[l] = v;
+  }
+}
+
 // The element of rank (N - 1) / 2 of each neighbourhood, by selection in a
 // copy of it (scratch holds kw x kh elements).
 template <class T>

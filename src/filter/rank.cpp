@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #include "core/border.h"
 #include "core/common.h"
@@ -31,6 +32,14 @@ int64_t RankBufferBytes(int64_t W, PeliSize mask, int64_t elemBytes, int channel
   return WindowBufferBytes(W, g, static_cast<int>(elemBytes * channels)) + static_cast<int64_t>(RoundUp64(reach * 16)) +
          static_cast<int64_t>(RoundUp64(W * channels * elemBytes)) +
          static_cast<int64_t>(RoundUp64(g.kw * g.kh * elemBytes)) + 64;
+}
+
+// The separable extreme's area after the common ones: a ring of kh + 1 rows
+// of horizontal extremes, a second output row (AC4 rows come in pairs) and
+// the kh + 1 row pointers.
+int64_t HorizontalRingBytes(int64_t W, int64_t kh, int64_t elemBytes, int channels) {
+  const auto row = static_cast<int64_t>(RoundUp64(W * channels * elemBytes));
+  return (kh + 2) * row + static_cast<int64_t>(RoundUp64((kh + 1) * 8));
 }
 
 // Sizes far beyond what can be reported are refused before they are
@@ -118,7 +127,16 @@ PelStatus BoxGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType data
 
 PelStatus ExtremeGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
                                int* pBufferSize) {
-  return BoxGetBufferSize(roiSize, maskSize, dataType, numChannels, pBufferSize);
+  if (pBufferSize == nullptr) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize)) return pelStatusBadMaskSize;
+  if (!TypeOf4(dataType)) return pelStatusDataTypeError;
+  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  const int64_t elem = ElementBytes(dataType);
+  return ReportSize(RankBufferBytes(roiSize.width, maskSize, elem, numChannels) +
+                        HorizontalRingBytes(roiSize.width, maskSize.height, elem, numChannels),
+                    pBufferSize);
 }
 
 template <class T, int C, int W>
@@ -167,6 +185,59 @@ PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize
   return pelStatusOk;
 }
 
+namespace {
+
+// Integer extremes, separably: the horizontal extreme of each extended
+// source row is taken once, into a ring of kh + 1 rows, and output rows go
+// in pairs whose vertical extremes share the kh - 1 rows both cover. The
+// order of taps cannot change an integer extreme, so this gives the bytes
+// of the one-row-at-a-time reference.
+template <class T, int C, int W, bool kMax>
+void SeparableExtreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi, PeliSize mask, int border,
+                      const T* pixel, Pel8u* pBuffer) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel), pBuffer,
+                   static_cast<const void*>(pSrc) == pDst);
+  const Scratch s = ScratchAfter(window.End(), roi.width, g, sizeof(T), C);
+  const int64_t lanes = int64_t{roi.width} * C;
+  const auto rowBytes = static_cast<int64_t>(RoundUp64(lanes * static_cast<int64_t>(sizeof(T))));
+  uint8_t* ring = s.select + RoundUp64(g.kw * g.kh * static_cast<int64_t>(sizeof(T)));
+  T* outRow1 = reinterpret_cast<T*>(ring + (g.kh + 1) * rowBytes);
+  const uint8_t** rows = reinterpret_cast<const uint8_t**>(ring + (g.kh + 2) * rowBytes);
+  const int64_t slots = g.kh + 1;
+  auto slot = [&](int64_t r) { return ring + (((r % slots) + slots) % slots) * rowBytes; };
+  RowWindow::Run runs[3];
+  // The horizontal pass of the rows that enter the window at output row y.
+  auto enter = [&](int64_t y) {
+    const int n = window.Runs(y, runs);
+    for (int64_t i = y == 0 ? 0 : g.kh - 1; i < g.kh; ++i) {
+      uint8_t* h = slot(y - g.ay + i);
+      for (int k = 0; k < n; ++k)
+        ExtremeHorizontal(LaneOf<T>(), kMax, C, static_cast<int>(g.kw), runs[k].rows[i],
+                          h + runs[k].x0 * C * static_cast<int64_t>(sizeof(T)), runs[k].count * C);
+    }
+  };
+  for (int64_t y = 0; y < roi.height; y += 2) {
+    const bool pair = y + 1 < roi.height;
+    enter(y);
+    if (pair) enter(y + 1);
+    for (int64_t i = 0, k = (((y - g.ay) % slots) + slots) % slots; i <= g.kh; ++i, k = k + 1 == slots ? 0 : k + 1)
+      rows[i] = ring + k * rowBytes;
+    T* d0 = Row(pDst, dstStep, y);
+    T* d1 = pair ? Row(pDst, dstStep, y + 1) : nullptr;
+    T* o0 = W == C ? d0 : reinterpret_cast<T*>(s.outRow);
+    T* o1 = W == C ? d1 : pair ? outRow1 : nullptr;
+    ExtremeVertical(LaneOf<T>(), kMax, static_cast<int>(g.kh), rows, o0, o1, lanes);
+    if constexpr (W != C) {
+      for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d0 + x * C, o0 + x * C, sizeof(T) * W);
+      if (pair)
+        for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d1 + x * C, o1 + x * C, sizeof(T) * W);
+    }
+  }
+}
+
+}  // namespace
+
 template <class T, int C, int W, bool kMax>
 PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
                   PeliBorderType border, T borderValue, Pel8u* pBuffer) {
@@ -177,6 +248,10 @@ PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi
     return pelStatusBadBorderType;
   T pixel[4];
   FillPixel<T, C>(pixel, borderValue);
+  if constexpr (std::is_integral_v<T>) {
+    SeparableExtreme<T, C, W, kMax>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer);
+    return pelStatusOk;
+  }
   Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
                     [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
                       ExtremeRow(LaneOf<T>(), kMax, C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);

@@ -31,6 +31,16 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
     scalar::ExtremeRow(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), 0, lanes);
   });
 }
+void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) { scalar::ExtremeHorizontal(max, C, kw, row, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+void ExtremeVerticalTarget(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1,
+                           int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::ExtremeVertical(max, kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), 0, lanes);
+  });
+}
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
@@ -210,6 +220,79 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
   });
 }
 
+template <bool kMax, class V>
+HWY_INLINE V ExtremeOf(V a, V b) {
+  if constexpr (kMax) return hn::Max(a, b);
+  else return hn::Min(a, b);
+}
+
+// Integer lanes only: the order of the taps does not matter, and both
+// operations are idempotent, so a last vector may overlap the one before.
+template <bool kMax, class T>
+void Horizontal(int C, int kw, const uint8_t* row, T* dst, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  if (lanes < N) return scalar::ExtremeHorizontal(kMax, C, kw, row, dst, 0, lanes);
+  const T* p = reinterpret_cast<const T*>(row);
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);
+    auto v = hn::LoadU(d, p + l);
+    for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + l + j * C));
+    hn::StoreU(v, d, dst + l);
+  }
+}
+
+template <bool kMax, class T>
+void Vertical(int kh, const uint8_t* const* rows, T* dst0, T* dst1, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  if (lanes < N) return scalar::ExtremeVertical(kMax, kh, rows, dst0, dst1, 0, lanes);
+  auto at = [&](int i, int64_t l) { return hn::LoadU(d, reinterpret_cast<const T*>(rows[i]) + l); };
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);
+    if (dst1 == nullptr) {
+      auto v = at(0, l);
+      for (int i = 1; i < kh; ++i) v = ExtremeOf<kMax>(v, at(i, l));
+      hn::StoreU(v, d, dst0 + l);
+      continue;
+    }
+    if (kh == 1) {
+      hn::StoreU(at(0, l), d, dst0 + l);
+      hn::StoreU(at(1, l), d, dst1 + l);
+      continue;
+    }
+    // The rows 1 .. kh - 1, which both outputs share.
+    auto m = at(1, l);
+    for (int i = 2; i < kh; ++i) m = ExtremeOf<kMax>(m, at(i, l));
+    hn::StoreU(ExtremeOf<kMax>(m, at(0, l)), d, dst0 + l);
+    hn::StoreU(ExtremeOf<kMax>(m, at(kh, l)), d, dst1 + l);
+  }
+}
+
+void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    if constexpr (std::is_integral_v<T>) {
+      if (max) Horizontal<true>(C, kw, row, static_cast<T*>(dst), lanes);
+      else Horizontal<false>(C, kw, row, static_cast<T*>(dst), lanes);
+    } else {
+      scalar::ExtremeHorizontal(max, C, kw, row, static_cast<T*>(dst), 0, lanes);
+    }
+  });
+}
+void ExtremeVerticalTarget(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1,
+                           int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    if constexpr (std::is_integral_v<T>) {
+      if (max) Vertical<true>(kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
+      else Vertical<false>(kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
+    } else {
+      scalar::ExtremeVertical(max, kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), 0, lanes);
+    }
+  });
+}
+
 // Small medians: the selection network over the kw x kh taps of each lane,
 // unrolled at compile time for the common sizes so that the taps stay in
 // registers; other sizes walk the network's table.
@@ -335,12 +418,28 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
     for (int bit = 7; bit >= 0; --bit) {
       const auto t = hn::Or(result, hn::Set(d, static_cast<uint8_t>(1u << bit)));
       const auto below = hn::Sub(t, hn::Set(d, 1));  // x < t  <=>  min(x, t - 1) == x
+#if HWY_TARGET <= HWY_AVX3
+      // A compare into a mask register and a masked increment a tap, in two
+      // chains so that the increments do not wait on each other.
+      (void)below;
+      const __m512i tr = t.raw, one = _mm512_set1_epi8(1);
+      __m512i c0 = _mm512_setzero_si512(), c1 = _mm512_setzero_si512();
+      int tap = 0;
+      for (int i = 0; i < kh; ++i)
+        for (int j = 0; j < kw; ++j, ++tap) {
+          const __m512i x = _mm512_loadu_si512(At<uint8_t>(rows[i], l + j * C));
+          if (tap & 1) c1 = _mm512_mask_add_epi8(c1, _mm512_cmplt_epu8_mask(x, tr), c1, one);
+          else c0 = _mm512_mask_add_epi8(c0, _mm512_cmplt_epu8_mask(x, tr), c0, one);
+        }
+      const hn::Vec<decltype(d)> count{_mm512_add_epi8(c0, c1)};
+#else
       auto count = hn::Zero(d);
       for (int i = 0; i < kh; ++i)
         for (int j = 0; j < kw; ++j) {
           const auto x = hn::LoadU(d, At<uint8_t>(rows[i], l + j * C));
           count = hn::Sub(count, hn::VecFromMask(d, hn::Eq(hn::Min(x, below), x)));
         }
+#endif
       result = hn::IfThenElse(hn::Eq(hn::Min(count, rank), count), t, result);
     }
     hn::StoreU(result, d, dst + l);
@@ -475,6 +574,8 @@ HWY_AFTER_NAMESPACE();
 namespace pel::filter {
 HWY_EXPORT(CorrelateRowTarget);
 HWY_EXPORT(ExtremeRowTarget);
+HWY_EXPORT(ExtremeHorizontalTarget);
+HWY_EXPORT(ExtremeVerticalTarget);
 HWY_EXPORT(MedianRowTarget);
 HWY_EXPORT(BoxRowTarget);
 
@@ -484,6 +585,12 @@ void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst
 void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
                 int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(ExtremeRowTarget)(lane, max, C, kw, kh, rows, tmp, dst, lanes);
+}
+void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(ExtremeHorizontalTarget)(lane, max, C, kw, row, dst, lanes);
+}
+void ExtremeVertical(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(ExtremeVerticalTarget)(lane, max, kh, rows, dst0, dst1, lanes);
 }
 void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
                int64_t lanes) {

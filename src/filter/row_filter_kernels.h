@@ -58,6 +58,14 @@ void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst
 void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
                 int64_t lanes);
 
+// The separable extreme of integer lanes (U8, S16, U16): the horizontal
+// extreme of kw taps of one extended row, and the vertical extreme of kh
+// rows of those; with dst1, rows holds kh + 1 rows and dst1 gets the
+// extreme of rows 1 .. kh, sharing the kh - 1 rows the two outputs have in
+// common.
+void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes);
+void ExtremeVertical(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1, int64_t lanes);
+
 // Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
 // elements, scratch kw x kh.
 void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,

@@ -1,5 +1,7 @@
 #include "filter/window.h"
 
+#include <cstring>
+
 #include "core/common.h"
 #include "core/spec.h"
 
@@ -28,6 +30,41 @@ int64_t PointerBytes(const MaskGeometry& g) {
 }
 
 }  // namespace
+
+// A strip of row r (a row in memory) that is a few pixels wide, built pixel
+// by pixel: the general builder's set-up costs more than such a strip. Only
+// where every column outside the ROI maps in one step (one clamp or one
+// reflection) and pixels are whole; otherwise false, and nothing is written.
+bool RowWindow::BuildStrip(int64_t r, int64_t x0, int64_t width, uint8_t* dst) const {
+  const int64_t W = src_.width;
+  const int bytes = px_.bytes;
+  if (px_.keepAlpha || rule_.kind == BorderKind::Wrap) return false;
+  const bool memLeft = (rule_.inMemory & pelBorderInMemLeft) != 0;
+  const bool memRight = (rule_.inMemory & pelBorderInMemRight) != 0;
+  if (rule_.kind == BorderKind::Mirror) {
+    if (W < 2) return false;
+    if (!memLeft && x0 < 0 && -x0 >= W) return false;
+    if (!memRight && x0 + width > W && 2 * W - 2 - (x0 + width - 1) < 0) return false;
+  }
+  const auto* row = Row(static_cast<const uint8_t*>(src_.pixels), src_.step, static_cast<ptrdiff_t>(r));
+  for (int64_t i = 0; i < width; ++i) {
+    int64_t x = x0 + i;
+    const void* from;
+    if ((x < 0 && !memLeft) || (x >= W && !memRight)) {
+      if (rule_.kind == BorderKind::Constant) {
+        from = rule_.value;
+      } else {
+        if (rule_.kind == BorderKind::Replicate) x = x < 0 ? 0 : W - 1;
+        else x = x < 0 ? -x : 2 * W - 2 - x;
+        from = row + x * bytes;
+      }
+    } else {
+      from = row + x * bytes;
+    }
+    std::memcpy(dst + i * bytes, from, static_cast<size_t>(bytes));
+  }
+  return true;
+}
 
 int64_t WindowBufferBytes(int64_t roiW, const MaskGeometry& g, int pixelBytes) {
   const int64_t slots = g.kh + 1;
@@ -88,9 +125,10 @@ int RowWindow::Runs(int64_t y, Run (&runs)[3]) {
   const uint8_t** mid = runRows_ + g_.kh;
   const uint8_t** right = runRows_ + 2 * g_.kh;
   const int64_t rightX0 = interior1_;
-  for (int64_t i = 0; i < g_.kh; ++i) {
+  // One division a call: the slots of consecutive rows follow each other.
+  int64_t slot = (((y - g_.ay) % slots) + slots) % slots;
+  for (int64_t i = 0; i < g_.kh; ++i, slot = slot + 1 == slots ? 0 : slot + 1) {
     const int64_t r = y - g_.ay + i;
-    const int64_t slot = ((r % slots) + slots) % slots;
     if (!InMemory(r)) {
       // A synthesised row: built whole, once, and shared by the three runs.
       uint8_t* row = ring_ + slot * rowBytes_;
@@ -106,10 +144,11 @@ int RowWindow::Runs(int64_t y, Run (&runs)[3]) {
     uint8_t* ls = strips_ + slot * (leftBytes_ + rightBytes_);
     uint8_t* rs = ls + leftBytes_;
     if (stripRow_[slot] != r) {
-      if (interior0_ > 0) datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, g_.ax + g_.kw - 1, 1}, ls, leftBytes_);
-      if (interior1_ < src_.width)
-        datamove::BuildBorderWindow(src_, rule_, px_, {rightX0 - g_.ax, r, src_.width - rightX0 + g_.kw - 1, 1}, rs,
-                                    rightBytes_);
+      if (interior0_ > 0 && !BuildStrip(r, -g_.ax, g_.ax + g_.kw - 1, ls))
+        datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, g_.ax + g_.kw - 1, 1}, ls, leftBytes_);
+      const int64_t rightW = src_.width - rightX0 + g_.kw - 1;
+      if (interior1_ < src_.width && !BuildStrip(r, rightX0 - g_.ax, rightW, rs))
+        datamove::BuildBorderWindow(src_, rule_, px_, {rightX0 - g_.ax, r, rightW, 1}, rs, rightBytes_);
       stripRow_[slot] = r;
     }
     left[i] = ls;
@@ -137,13 +176,13 @@ const uint8_t* RowWindow::SourceRow(int64_t r) const {
 const uint8_t* const* RowWindow::Rows(int64_t y) {
   const int64_t slots = g_.kh + 1;
   leaving_ = y > 0 ? rows_[0] : nullptr;
-  for (int64_t i = 0; i < g_.kh; ++i) {
+  int64_t slot = (((y - g_.ay) % slots) + slots) % slots;
+  for (int64_t i = 0; i < g_.kh; ++i, slot = slot + 1 == slots ? 0 : slot + 1) {
     const int64_t r = y - g_.ay + i;
     if (rowsDirect_ && InMemory(r)) {
       rows_[i] = SourceRow(r);
       continue;
     }
-    const int64_t slot = ((r % slots) + slots) % slots;
     uint8_t* row = ring_ + slot * rowBytes_;
     if (ringRow_[slot] != r) {
       datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, src_.width + g_.kw - 1, 1}, row, rowBytes_);
