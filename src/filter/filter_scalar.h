@@ -115,10 +115,9 @@ void ExtremeRow(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* 
   }
 }
 
-// The two passes of the separable extreme of integers (where the order of
-// the taps cannot change the result): the horizontal extreme of kw taps of
-// one extended row, and the vertical extreme of kh such rows. With `dst1`,
-// rows holds kh + 1 rows and dst1 gets the extreme of rows 1 .. kh.
+// The separable extreme of integers (where the order of the taps cannot
+// change the result): the horizontal extreme of kw taps of one extended
+// row, and both passes for a pair of output rows (row_filter_kernels.h).
 template <class T>
 void ExtremeHorizontal(bool max, int C, int kw, const uint8_t* row, T* dst, int64_t begin, int64_t lanes) {
   for (int64_t l = begin; l < lanes; ++l) {
@@ -129,15 +128,23 @@ void ExtremeHorizontal(bool max, int C, int kw, const uint8_t* row, T* dst, int6
 }
 
 template <class T>
-void ExtremeVertical(bool max, int kh, const uint8_t* const* rows, T* dst0, T* dst1, int64_t begin, int64_t lanes) {
+void ExtremePair(const ExtremePairJob& job, int64_t begin, int64_t lanes) {
+  auto ext = [&](T x, T y) { return job.max ? MaxOf(x, y) : MinOf(x, y); };
+  auto horizontal = [&](const uint8_t* row, int64_t l) {
+    T v = Load<T>(row, l);
+    for (int j = 1; j < job.kw; ++j) v = ext(v, Load<T>(row, l + j * job.C));
+    return v;
+  };
   for (int64_t l = begin; l < lanes; ++l) {
-    T v = Load<T>(rows[0], l);
-    for (int i = 1; i < kh; ++i) v = max ? MaxOf(v, Load<T>(rows[i], l)) : MinOf(v, Load<T>(rows[i], l));
-    dst0[l] = v;
-    if (dst1 == nullptr) continue;
-    v = Load<T>(rows[1], l);
-    for (int i = 2; i <= kh; ++i) v = max ? MaxOf(v, Load<T>(rows[i], l)) : MinOf(v, Load<T>(rows[i], l));
-    dst1[l] = v;
+    const T ha = horizontal(job.a, l);
+    static_cast<T*>(job.hA)[l] = ha;
+    T m = ha;
+    for (int i = 1; i < job.kh - 1; ++i) m = ext(m, Load<T>(job.held[i], l));
+    static_cast<T*>(job.out0)[l] = job.kh > 1 ? ext(m, Load<T>(job.held[0], l)) : m;
+    if (job.b == nullptr) continue;
+    const T hb = horizontal(job.b, l);
+    static_cast<T*>(job.hB)[l] = hb;
+    static_cast<T*>(job.out1)[l] = job.kh > 1 ? ext(m, hb) : hb;
   }
 }
 

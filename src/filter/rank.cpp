@@ -199,35 +199,44 @@ void SeparableExtreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize
   RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel), pBuffer,
                    static_cast<const void*>(pSrc) == pDst);
   const Scratch s = ScratchAfter(window.End(), roi.width, g, sizeof(T), C);
+  constexpr auto kBytes = static_cast<int64_t>(sizeof(T));
   const int64_t lanes = int64_t{roi.width} * C;
-  const auto rowBytes = static_cast<int64_t>(RoundUp64(lanes * static_cast<int64_t>(sizeof(T))));
-  uint8_t* ring = s.select + RoundUp64(g.kw * g.kh * static_cast<int64_t>(sizeof(T)));
+  const auto rowBytes = static_cast<int64_t>(RoundUp64(lanes * kBytes));
+  uint8_t* ring = s.select + RoundUp64(g.kw * g.kh * kBytes);
   T* outRow1 = reinterpret_cast<T*>(ring + (g.kh + 1) * rowBytes);
-  const uint8_t** rows = reinterpret_cast<const uint8_t**>(ring + (g.kh + 2) * rowBytes);
+  const uint8_t** held = reinterpret_cast<const uint8_t**>(ring + (g.kh + 2) * rowBytes);
   const int64_t slots = g.kh + 1;
-  auto slot = [&](int64_t r) { return ring + (((r % slots) + slots) % slots) * rowBytes; };
-  RowWindow::Run runs[3];
-  // The horizontal pass of the rows that enter the window at output row y.
-  auto enter = [&](int64_t y) {
-    const int n = window.Runs(y, runs);
-    for (int64_t i = y == 0 ? 0 : g.kh - 1; i < g.kh; ++i) {
-      uint8_t* h = slot(y - g.ay + i);
-      for (int k = 0; k < n; ++k)
-        ExtremeHorizontal(LaneOf<T>(), kMax, C, static_cast<int>(g.kw), runs[k].rows[i],
-                          h + runs[k].x0 * C * static_cast<int64_t>(sizeof(T)), runs[k].count * C);
-    }
-  };
+  ExtremePairJob job{LaneOf<T>(), kMax, C, static_cast<int>(g.kw), static_cast<int>(g.kh), held};
+  RowWindow::Run runs[3], next[3];
+  const uint8_t* entering[3];
   for (int64_t y = 0; y < roi.height; y += 2) {
     const bool pair = y + 1 < roi.height;
-    enter(y);
-    if (pair) enter(y + 1);
-    for (int64_t i = 0, k = (((y - g.ay) % slots) + slots) % slots; i <= g.kh; ++i, k = k + 1 == slots ? 0 : k + 1)
-      rows[i] = ring + k * rowBytes;
+    // The ring slot of window row i (row y - ay + i), i <= kh.
+    const int64_t first = (((y - g.ay) % slots) + slots) % slots;
+    auto slot = [&](int64_t i) { return ring + (first + i < slots ? first + i : first + i - slots) * rowBytes; };
+    const int n = window.Runs(y, runs);
+    if (y == 0)
+      for (int64_t i = 0; i + 1 < g.kh; ++i)
+        for (int k = 0; k < n; ++k)
+          ExtremeHorizontal(LaneOf<T>(), kMax, C, job.kw, runs[k].rows[i], slot(i) + runs[k].x0 * C * kBytes,
+                            runs[k].count * C);
+    for (int k = 0; k < n; ++k) entering[k] = runs[k].rows[g.kh - 1];
+    if (pair) window.Runs(y + 1, next);  // the same runs, one row further down
     T* d0 = Row(pDst, dstStep, y);
     T* d1 = pair ? Row(pDst, dstStep, y + 1) : nullptr;
     T* o0 = W == C ? d0 : reinterpret_cast<T*>(s.outRow);
-    T* o1 = W == C ? d1 : pair ? outRow1 : nullptr;
-    ExtremeVertical(LaneOf<T>(), kMax, static_cast<int>(g.kh), rows, o0, o1, lanes);
+    T* o1 = W == C ? d1 : outRow1;
+    for (int k = 0; k < n; ++k) {
+      const int64_t off = runs[k].x0 * C;
+      for (int64_t i = 0; i + 1 < g.kh; ++i) held[i] = slot(i) + off * kBytes;
+      job.a = entering[k];
+      job.b = pair ? next[k].rows[g.kh - 1] : nullptr;
+      job.hA = slot(g.kh - 1) + off * kBytes;
+      job.hB = slot(g.kh) + off * kBytes;
+      job.out0 = o0 + off;
+      job.out1 = pair ? o1 + off : nullptr;
+      ExtremePair(job, runs[k].count * C);
+    }
     if constexpr (W != C) {
       for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d0 + x * C, o0 + x * C, sizeof(T) * W);
       if (pair)

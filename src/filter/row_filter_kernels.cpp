@@ -34,12 +34,8 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
 void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) { scalar::ExtremeHorizontal(max, C, kw, row, static_cast<decltype(t)*>(dst), 0, lanes); });
 }
-void ExtremeVerticalTarget(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1,
-                           int64_t lanes) {
-  VisitLane(lane, [&](auto t) {
-    using T = decltype(t);
-    scalar::ExtremeVertical(max, kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), 0, lanes);
-  });
+void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { scalar::ExtremePair<decltype(t)>(job, 0, lanes); });
 }
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
                      void* dst, int64_t lanes) {
@@ -243,30 +239,43 @@ void Horizontal(int C, int kw, const uint8_t* row, T* dst, int64_t lanes) {
 }
 
 template <bool kMax, class T>
-void Vertical(int kh, const uint8_t* const* rows, T* dst0, T* dst1, int64_t lanes) {
+void Pair(const ExtremePairJob& job, int64_t lanes) {
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-  if (lanes < N) return scalar::ExtremeVertical(kMax, kh, rows, dst0, dst1, 0, lanes);
-  auto at = [&](int i, int64_t l) { return hn::LoadU(d, reinterpret_cast<const T*>(rows[i]) + l); };
+  if (lanes < N) return scalar::ExtremePair<T>(job, 0, lanes);
+  const int C = job.C, kw = job.kw, kh = job.kh;
+  const T* a = reinterpret_cast<const T*>(job.a);
+  const T* b = reinterpret_cast<const T*>(job.b);
+  auto horizontal = [&](const T* p) {
+    auto v = hn::LoadU(d, p);
+    for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + j * C));
+    return v;
+  };
+  auto held = [&](int i, int64_t l) { return hn::LoadU(d, reinterpret_cast<const T*>(job.held[i]) + l); };
   for (int64_t x = 0; x < lanes; x += N) {
-    const int64_t l = std::min(x, lanes - N);
-    if (dst1 == nullptr) {
-      auto v = at(0, l);
-      for (int i = 1; i < kh; ++i) v = ExtremeOf<kMax>(v, at(i, l));
-      hn::StoreU(v, d, dst0 + l);
-      continue;
-    }
-    if (kh == 1) {
-      hn::StoreU(at(0, l), d, dst0 + l);
-      hn::StoreU(at(1, l), d, dst1 + l);
-      continue;
-    }
-    // The rows 1 .. kh - 1, which both outputs share.
-    auto m = at(1, l);
-    for (int i = 2; i < kh; ++i) m = ExtremeOf<kMax>(m, at(i, l));
-    hn::StoreU(ExtremeOf<kMax>(m, at(0, l)), d, dst0 + l);
-    hn::StoreU(ExtremeOf<kMax>(m, at(kh, l)), d, dst1 + l);
+    const int64_t l = std::min(x, lanes - N);  // idempotent: a last vector may overlap
+    const auto ha = horizontal(a + l);
+    hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
+    auto m = ha;
+    for (int i = 1; i < kh - 1; ++i) m = ExtremeOf<kMax>(m, held(i, l));
+    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, held(0, l)) : m, d, static_cast<T*>(job.out0) + l);
+    if (b == nullptr) continue;
+    const auto hb = horizontal(b + l);
+    hn::StoreU(hb, d, static_cast<T*>(job.hB) + l);
+    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, hb) : hb, d, static_cast<T*>(job.out1) + l);
   }
+}
+
+void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) {
+    using T = decltype(t);
+    if constexpr (std::is_integral_v<T>) {
+      if (job.max) Pair<true, T>(job, lanes);
+      else Pair<false, T>(job, lanes);
+    } else {
+      scalar::ExtremePair<T>(job, 0, lanes);
+    }
+  });
 }
 
 void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
@@ -277,18 +286,6 @@ void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* 
       else Horizontal<false>(C, kw, row, static_cast<T*>(dst), lanes);
     } else {
       scalar::ExtremeHorizontal(max, C, kw, row, static_cast<T*>(dst), 0, lanes);
-    }
-  });
-}
-void ExtremeVerticalTarget(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1,
-                           int64_t lanes) {
-  VisitLane(lane, [&](auto t) {
-    using T = decltype(t);
-    if constexpr (std::is_integral_v<T>) {
-      if (max) Vertical<true>(kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
-      else Vertical<false>(kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
-    } else {
-      scalar::ExtremeVertical(max, kh, rows, static_cast<T*>(dst0), static_cast<T*>(dst1), 0, lanes);
     }
   });
 }
@@ -575,7 +572,7 @@ namespace pel::filter {
 HWY_EXPORT(CorrelateRowTarget);
 HWY_EXPORT(ExtremeRowTarget);
 HWY_EXPORT(ExtremeHorizontalTarget);
-HWY_EXPORT(ExtremeVerticalTarget);
+HWY_EXPORT(ExtremePairTarget);
 HWY_EXPORT(MedianRowTarget);
 HWY_EXPORT(BoxRowTarget);
 
@@ -589,9 +586,7 @@ void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const
 void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(ExtremeHorizontalTarget)(lane, max, C, kw, row, dst, lanes);
 }
-void ExtremeVertical(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1, int64_t lanes) {
-  HWY_DYNAMIC_DISPATCH(ExtremeVerticalTarget)(lane, max, kh, rows, dst0, dst1, lanes);
-}
+void ExtremePair(const ExtremePairJob& job, int64_t lanes) { HWY_DYNAMIC_DISPATCH(ExtremePairTarget)(job, lanes); }
 void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
                int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, wide, scratch, dst, lanes);

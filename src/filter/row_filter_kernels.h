@@ -59,12 +59,27 @@ void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const
                 int64_t lanes);
 
 // The separable extreme of integer lanes (U8, S16, U16): the horizontal
-// extreme of kw taps of one extended row, and the vertical extreme of kh
-// rows of those; with dst1, rows holds kh + 1 rows and dst1 gets the
-// extreme of rows 1 .. kh, sharing the kh - 1 rows the two outputs have in
-// common.
+// extreme of kw taps of one extended row.
 void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes);
-void ExtremeVertical(Lane lane, bool max, int kh, const uint8_t* const* rows, void* dst0, void* dst1, int64_t lanes);
+
+// Both passes for a pair of output rows in one sweep: the rows a and b
+// (extended source rows, b may be null) enter the window, their horizontal
+// extremes go to hA and hB for later pairs, and out0 (out1) gets the
+// vertical extreme of held[0 .. kh - 2] and a (held[1 .. kh - 2], a and b);
+// held are the horizontal extremes of the kh - 1 rows above a.
+struct ExtremePairJob {
+  Lane lane;
+  bool max;
+  int C, kw, kh;
+  const uint8_t* const* held;
+  const uint8_t* a = nullptr;
+  const uint8_t* b = nullptr;
+  void* hA = nullptr;
+  void* hB = nullptr;
+  void* out0 = nullptr;
+  void* out1 = nullptr;
+};
+void ExtremePair(const ExtremePairJob& job, int64_t lanes);
 
 // Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
 // elements, scratch kw x kh.

@@ -1,5 +1,6 @@
 #include "filter/window.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/common.h"
@@ -16,17 +17,45 @@ int64_t WindowRowBytes(int64_t roiW, const MaskGeometry& g, int pixelBytes) {
 
 namespace {
 
-// Strips of the left and right edges: the outputs [0, ax) reach columns
-// [-ax, kw - 1 - ax), the outputs [W - right, W) columns [W - right - ax, W + right).
+// Strips of the left and right edges. An edge run covers at least 64 bytes
+// of output pixels (more than the mask's reach when that is short), so that
+// the row kernels run it with full vectors rather than their scalar tails:
+// the outputs [0, left) reach columns [-ax, left + kw - 1 - ax), the
+// outputs [W - right, W) columns [W - right - ax, W + kw - 1 - ax).
+int64_t EdgePixels(int pixelBytes) { return (64 + pixelBytes - 1) / pixelBytes; }
+int64_t LeftEdge(const MaskGeometry& g, int pixelBytes) { return std::max(g.ax, EdgePixels(pixelBytes)); }
+int64_t RightEdge(const MaskGeometry& g, int pixelBytes) {
+  return std::max(g.kw - g.ax - 1, EdgePixels(pixelBytes));
+}
 int64_t LeftStripBytes(const MaskGeometry& g, int pixelBytes) {
-  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((g.ax + g.kw - 1) * pixelBytes)));
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((LeftEdge(g, pixelBytes) + g.kw - 1) * pixelBytes)));
 }
 int64_t RightStripBytes(const MaskGeometry& g, int pixelBytes) {
-  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((2 * g.kw - 2 - g.ax) * pixelBytes)));
+  return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>((RightEdge(g, pixelBytes) + g.kw - 1) * pixelBytes)));
 }
 int64_t PointerBytes(const MaskGeometry& g) {
   const int64_t slots = g.kh + 1;
   return static_cast<int64_t>(RoundUp64(static_cast<uint64_t>(2 * slots * 8 + 4 * g.kh * 8)));
+}
+
+}  // namespace
+
+namespace {
+
+// One pixel, with the size known to the compiler (a call to memcpy would
+// cost more than the copy).
+void CopyPixel(uint8_t* dst, const void* src, int bytes) {
+  switch (bytes) {
+    case 1: std::memcpy(dst, src, 1); return;
+    case 2: std::memcpy(dst, src, 2); return;
+    case 3: std::memcpy(dst, src, 3); return;
+    case 4: std::memcpy(dst, src, 4); return;
+    case 6: std::memcpy(dst, src, 6); return;
+    case 8: std::memcpy(dst, src, 8); return;
+    case 12: std::memcpy(dst, src, 12); return;
+    case 16: std::memcpy(dst, src, 16); return;
+    default: std::memcpy(dst, src, static_cast<size_t>(bytes)); return;
+  }
 }
 
 }  // namespace
@@ -47,8 +76,14 @@ bool RowWindow::BuildStrip(int64_t r, int64_t x0, int64_t width, uint8_t* dst) c
     if (!memRight && x0 + width > W && 2 * W - 2 - (x0 + width - 1) < 0) return false;
   }
   const auto* row = Row(static_cast<const uint8_t*>(src_.pixels), src_.step, static_cast<ptrdiff_t>(r));
+  // The columns read where they lie, in one copy; then the others.
+  const int64_t end = x0 + width;
+  const int64_t lo = memLeft ? x0 : std::max<int64_t>(x0, 0);
+  const int64_t hi = memRight ? end : std::min(end, W);
+  if (lo < hi) std::memcpy(dst + (lo - x0) * bytes, row + lo * bytes, static_cast<size_t>((hi - lo) * bytes));
   for (int64_t i = 0; i < width; ++i) {
     int64_t x = x0 + i;
+    if (x >= lo && x < hi) continue;
     const void* from;
     if ((x < 0 && !memLeft) || (x >= W && !memRight)) {
       if (rule_.kind == BorderKind::Constant) {
@@ -61,7 +96,7 @@ bool RowWindow::BuildStrip(int64_t r, int64_t x0, int64_t width, uint8_t* dst) c
     } else {
       from = row + x * bytes;
     }
-    std::memcpy(dst + i * bytes, from, static_cast<size_t>(bytes));
+    CopyPixel(dst + i * bytes, from, bytes);
   }
   return true;
 }
@@ -109,9 +144,8 @@ RowWindow::RowWindow(const void* src, ptrdiff_t srcStep, int64_t roiW, int64_t r
   for (int64_t s = 0; s < slots; ++s) ringRow_[s] = stripRow_[s] = INT64_MIN;
   // The interior: outputs whose reach stays inside the ROI or runs onto an
   // in-memory side.
-  const int64_t right = g.kw - g.ax - 1;
-  interior0_ = (rule_.inMemory & pelBorderInMemLeft) ? 0 : g.ax;
-  interior1_ = (rule_.inMemory & pelBorderInMemRight) ? roiW : roiW - right;
+  interior0_ = (rule_.inMemory & pelBorderInMemLeft) ? 0 : LeftEdge(g, px.bytes);
+  interior1_ = (rule_.inMemory & pelBorderInMemRight) ? roiW : roiW - RightEdge(g, px.bytes);
   split_ = !rowsDirect_ && !forceCopy && interior1_ > interior0_;
 }
 
@@ -144,8 +178,9 @@ int RowWindow::Runs(int64_t y, Run (&runs)[3]) {
     uint8_t* ls = strips_ + slot * (leftBytes_ + rightBytes_);
     uint8_t* rs = ls + leftBytes_;
     if (stripRow_[slot] != r) {
-      if (interior0_ > 0 && !BuildStrip(r, -g_.ax, g_.ax + g_.kw - 1, ls))
-        datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, g_.ax + g_.kw - 1, 1}, ls, leftBytes_);
+      const int64_t leftW = interior0_ + g_.kw - 1;
+      if (interior0_ > 0 && !BuildStrip(r, -g_.ax, leftW, ls))
+        datamove::BuildBorderWindow(src_, rule_, px_, {-g_.ax, r, leftW, 1}, ls, leftBytes_);
       const int64_t rightW = src_.width - rightX0 + g_.kw - 1;
       if (interior1_ < src_.width && !BuildStrip(r, rightX0 - g_.ax, rightW, rs))
         datamove::BuildBorderWindow(src_, rule_, px_, {rightX0 - g_.ax, r, rightW, 1}, rs, rightBytes_);
