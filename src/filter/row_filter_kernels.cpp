@@ -238,27 +238,36 @@ void Horizontal(int C, int kw, const uint8_t* row, T* dst, int64_t lanes) {
   }
 }
 
-template <bool kMax, class T>
+// kKW, kKH: the mask's size when fixed at compile time (the common square
+// masks, fully unrolled), 0 when read from the job.
+template <bool kMax, int kKW, int kKH, class T>
 void Pair(const ExtremePairJob& job, int64_t lanes) {
   const hn::ScalableTag<T> d;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   if (lanes < N) return scalar::ExtremePair<T>(job, 0, lanes);
-  const int C = job.C, kw = job.kw, kh = job.kh;
+  const int C = job.C;
+  const int kw = kKW ? kKW : job.kw, kh = kKH ? kKH : job.kh;
   const T* a = reinterpret_cast<const T*>(job.a);
   const T* b = reinterpret_cast<const T*>(job.b);
-  auto horizontal = [&](const T* p) {
+  const T* held[kKH ? kKH : 1];
+  if constexpr (kKH != 0)
+    for (int i = 0; i + 1 < kKH; ++i) held[i] = reinterpret_cast<const T*>(job.held[i]);
+  auto heldAt = [&](int i, int64_t l) {
+    if constexpr (kKH != 0) return hn::LoadU(d, held[i] + l);
+    else return hn::LoadU(d, reinterpret_cast<const T*>(job.held[i]) + l);
+  };
+  auto horizontal = [&](const T* p) HWY_ATTR {
     auto v = hn::LoadU(d, p);
     for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + j * C));
     return v;
   };
-  auto held = [&](int i, int64_t l) { return hn::LoadU(d, reinterpret_cast<const T*>(job.held[i]) + l); };
   for (int64_t x = 0; x < lanes; x += N) {
     const int64_t l = std::min(x, lanes - N);  // idempotent: a last vector may overlap
     const auto ha = horizontal(a + l);
     hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
     auto m = ha;
-    for (int i = 1; i < kh - 1; ++i) m = ExtremeOf<kMax>(m, held(i, l));
-    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, held(0, l)) : m, d, static_cast<T*>(job.out0) + l);
+    for (int i = 1; i < kh - 1; ++i) m = ExtremeOf<kMax>(m, heldAt(i, l));
+    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, heldAt(0, l)) : m, d, static_cast<T*>(job.out0) + l);
     if (b == nullptr) continue;
     const auto hb = horizontal(b + l);
     hn::StoreU(hb, d, static_cast<T*>(job.hB) + l);
@@ -266,12 +275,20 @@ void Pair(const ExtremePairJob& job, int64_t lanes) {
   }
 }
 
+template <bool kMax, class T>
+void PairOfSize(const ExtremePairJob& job, int64_t lanes) {
+  if (job.kw == 3 && job.kh == 3) Pair<kMax, 3, 3, T>(job, lanes);
+  else if (job.kw == 5 && job.kh == 5) Pair<kMax, 5, 5, T>(job, lanes);
+  else if (job.kw == 7 && job.kh == 7) Pair<kMax, 7, 7, T>(job, lanes);
+  else Pair<kMax, 0, 0, T>(job, lanes);
+}
+
 void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
   VisitLane(job.lane, [&](auto t) {
     using T = decltype(t);
     if constexpr (std::is_integral_v<T>) {
-      if (job.max) Pair<true, T>(job, lanes);
-      else Pair<false, T>(job, lanes);
+      if (job.max) PairOfSize<true, T>(job, lanes);
+      else PairOfSize<false, T>(job, lanes);
     } else {
       scalar::ExtremePair<T>(job, 0, lanes);
     }

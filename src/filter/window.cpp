@@ -80,23 +80,19 @@ bool RowWindow::BuildStrip(int64_t r, int64_t x0, int64_t width, uint8_t* dst) c
   const int64_t end = x0 + width;
   const int64_t lo = memLeft ? x0 : std::max<int64_t>(x0, 0);
   const int64_t hi = memRight ? end : std::min(end, W);
-  if (lo < hi) std::memcpy(dst + (lo - x0) * bytes, row + lo * bytes, static_cast<size_t>((hi - lo) * bytes));
-  for (int64_t i = 0; i < width; ++i) {
-    int64_t x = x0 + i;
-    if (x >= lo && x < hi) continue;
-    const void* from;
-    if ((x < 0 && !memLeft) || (x >= W && !memRight)) {
-      if (rule_.kind == BorderKind::Constant) {
-        from = rule_.value;
-      } else {
-        if (rule_.kind == BorderKind::Replicate) x = x < 0 ? 0 : W - 1;
-        else x = x < 0 ? -x : 2 * W - 2 - x;
-        from = row + x * bytes;
-      }
-    } else {
-      from = row + x * bytes;
-    }
-    CopyPixel(dst + i * bytes, from, bytes);
+  // A column outside the ROI, on a side not in memory.
+  auto put = [&](int64_t x) {
+    const void* from = rule_.value;
+    if (rule_.kind == BorderKind::Replicate) from = row + (x < 0 ? 0 : W - 1) * bytes;
+    else if (rule_.kind == BorderKind::Mirror) from = row + (x < 0 ? -x : 2 * W - 2 - x) * bytes;
+    CopyPixel(dst + (x - x0) * bytes, from, bytes);
+  };
+  if (lo < hi) {
+    std::memcpy(dst + (lo - x0) * bytes, row + lo * bytes, static_cast<size_t>((hi - lo) * bytes));
+    for (int64_t x = x0; x < lo; ++x) put(x);
+    for (int64_t x = hi; x < end; ++x) put(x);
+  } else {
+    for (int64_t x = x0; x < end; ++x) put(x);
   }
   return true;
 }
