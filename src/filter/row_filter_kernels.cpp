@@ -383,7 +383,7 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   // first-level cache between the two passes.
   if (lanes < N) return 0;
   const int64_t piece =
-      std::min(lanes / N, std::max<int64_t>(1, 2048 / (N * static_cast<int64_t>(sizeof(T))))) * N;
+      std::min(lanes / N, std::max<int64_t>(1, 1536 / (N * static_cast<int64_t>(sizeof(T))))) * N;
   T* lo = wide;
   T* mid = wide + piece + 2 * C;
   T* hi = mid + piece + 2 * C;
