@@ -193,4 +193,26 @@ void BoxRow(int C, int kw, int kh, const uint8_t* const* rows, void* colSums, T*
   }
 }
 
+// Running 16-bit column sums of the 8-bit box (row_filter_kernels.h).
+inline void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                        int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    if (add != nullptr) {
+      col[l] = static_cast<uint16_t>(col[l] + add[l] - sub[l]);
+      continue;
+    }
+    unsigned s = 0;
+    for (int i = 0; i < kh; ++i) s += rows[i][l];
+    col[l] = static_cast<uint16_t>(s);
+  }
+}
+
+inline void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    int64_t s = 0;
+    for (int j = 0; j < kw; ++j) s += col[l + j * C];
+    dst[l] = RoundedMean<uint8_t>(s, int64_t{kw} * kh);
+  }
+}
+
 }  // namespace pel::filter::scalar

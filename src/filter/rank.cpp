@@ -164,6 +164,47 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
   return pelStatusOk;
 }
 
+namespace {
+
+// The 8-bit box of up to 257 taps with running column sums: the first row
+// sums its kh rows, every later one adds the row entering the window and
+// subtracts the one leaving it, so the vertical cost does not grow with kh.
+// The sums are exact, so the means are those of the direct sums.
+template <int C, int W>
+void RunningBox8(const Pel8u* pSrc, int srcStep, Pel8u* pDst, int dstStep, PeliSize roi, PeliSize mask, int border,
+                 const Pel8u* pixel, Pel8u* pBuffer) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<Pel8u, C>(), RuleOf(border, pixel),
+                   pBuffer, static_cast<const void*>(pSrc) == pDst);
+  const Scratch s = ScratchAfter(window.End(), roi.width, g, 1, C);
+  auto* col = reinterpret_cast<uint16_t*>(s.reach);
+  const int64_t wide = (int64_t{roi.width} + g.kw - 1) * C;
+  RowWindow::Run runs[3];
+  const uint8_t* leaving[3] = {};
+  for (int64_t y = 0; y < roi.height; ++y) {
+    const int n = window.Runs(y, runs);
+    // The runs split the extended row: run k gives its lanes from x0 x C up
+    // to the next run's (the last: to the end of the reach).
+    for (int k = 0; k < n; ++k) {
+      const int64_t from = runs[k].x0 * C;
+      const int64_t to = k + 1 < n ? runs[k + 1].x0 * C : wide;
+      if (y == 0) {
+        BoxColumns8(static_cast<int>(g.kh), runs[k].rows, nullptr, nullptr, col + from, to - from);
+      } else {
+        BoxColumns8(static_cast<int>(g.kh), nullptr, runs[k].rows[g.kh - 1], leaving[k], col + from, to - from);
+      }
+    }
+    for (int k = 0; k < n; ++k) leaving[k] = runs[k].rows[0];
+    Pel8u* d = Row(pDst, dstStep, y);
+    Pel8u* out = W == C ? d : s.outRow;
+    BoxMeans8(C, static_cast<int>(g.kw), static_cast<int>(g.kh), col, out, int64_t{roi.width} * C);
+    if constexpr (W != C)
+      for (int64_t x = 0; x < roi.width; ++x) std::memcpy(d + x * C, out + x * C, W);
+  }
+}
+
+}  // namespace
+
 template <class T, int C, int W>
 PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
               PeliBorderType border, const T* borderValue, Pel8u* pBuffer) {
@@ -178,6 +219,12 @@ PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize
   T pixel[4] = {};
   if (constant)
     for (int c = 0; c < W; ++c) pixel[c] = borderValue[c];
+  if constexpr (std::is_same_v<T, Pel8u>) {
+    if (int64_t{maskSize.width} * maskSize.height <= 257) {
+      RunningBox8<C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer);
+      return pelStatusOk;
+    }
+  }
   Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
                     [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
                       BoxRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, out, lanes);

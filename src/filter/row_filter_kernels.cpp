@@ -37,6 +37,13 @@ void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* 
 void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
   VisitLane(job.lane, [&](auto t) { scalar::ExtremePair<decltype(t)>(job, 0, lanes); });
 }
+void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                       int64_t lanes) {
+  scalar::BoxColumns8(kh, rows, add, sub, col, 0, lanes);
+}
+void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
+}
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
@@ -477,25 +484,35 @@ void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* row
   });
 }
 
-// 8-bit box with at most 257 taps: sums fit 16 bits; the rounded mean
-// floor((2s + N) / 2N) is exact in single precision from (2s + N + 1/2)
-// times the reciprocal, the error staying far below the distance 1/4N of
-// every such quotient from an integer.
-int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, uint8_t* dst, int64_t lanes) {
+// 8-bit box with at most 257 taps: sums fit 16 bits, and 16-bit lanes wrap,
+// so adding the entering row and subtracting the leaving one keeps every
+// column sum exact.
+void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                       int64_t lanes) {
   const hn::ScalableTag<uint16_t> d16;
   const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
-  const int64_t wide = lanes + int64_t{kw - 1} * C;
   int64_t l = 0;
-  for (; l + N16 <= wide; l += N16) {
-    auto s = hn::Zero(d16);
-    for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
-    hn::StoreU(s, d16, col + l);
+  if (add != nullptr) {
+    for (; l + N16 <= lanes; l += N16)
+      hn::StoreU(hn::Sub(hn::Add(hn::LoadU(d16, col + l), LoadWide(d16, add + l)), LoadWide(d16, sub + l)), d16,
+                 col + l);
+  } else {
+    for (; l + N16 <= lanes; l += N16) {
+      auto s = hn::Zero(d16);
+      for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
+      hn::StoreU(s, d16, col + l);
+    }
   }
-  for (; l < wide; ++l) {
-    unsigned s = 0;
-    for (int i = 0; i < kh; ++i) s += rows[i][l];
-    col[l] = static_cast<uint16_t>(s);
-  }
+  scalar::BoxColumns8(kh, rows, add, sub, col, l, lanes);
+}
+
+// The rounded mean floor((2s + N) / 2N) is exact in single precision from
+// (2s + N + 1/2) times the reciprocal, the error staying far below the
+// distance 1/4N of every such quotient from an integer.
+void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint16_t> d16;
+  const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
+  if (lanes < N16) return scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
   // Sums of up to 257 taps fit 16-bit lanes; the division widens them.
   const hn::Half<decltype(d16)> dh16;
   const hn::Rebind<uint32_t, decltype(dh16)> du;
@@ -507,20 +524,18 @@ int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, u
   const auto bias = hn::Set(di, n);
   const auto half = hn::Set(df, 0.5f);
   const auto recip = hn::Set(df, 1.0f / static_cast<float>(2 * n));
-  auto mean = [&](auto s16, uint8_t* out) {
+  auto mean = [&](auto s16, uint8_t* out) HWY_ATTR {
     const auto s = hn::BitCast(di, hn::PromoteTo(du, s16));
     const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
     hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
   };
-  if (lanes < N16) return 0;
   for (int64_t x = 0; x < lanes; x += N16) {
-    l = std::min(x, lanes - N16);  // the last vector may overlap the one before
+    const int64_t l = std::min(x, lanes - N16);  // the last vector may overlap the one before
     auto s = hn::Zero(d16);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
     mean(hn::LowerHalf(dh16, s), dst + l);
     mean(hn::UpperHalf(dh16, s), dst + l + NH);
   }
-  return lanes;
 }
 
 // 32f box: f64 column sums, then the kw sums left to right, as the reference.
@@ -554,15 +569,9 @@ int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, f
 void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
                   int64_t lanes) {
   if (lane == Lane::U8 && int64_t{kw} * kh <= 257) {
-    auto* d = static_cast<uint8_t*>(dst);
     auto* col = static_cast<uint16_t*>(colSums);
-    const int64_t done = Box8(C, kw, kh, rows, col, d, lanes);
-    const int n = kw * kh;
-    for (int64_t l = done; l < lanes; ++l) {
-      int64_t s = 0;
-      for (int j = 0; j < kw; ++j) s += col[l + j * C];
-      d[l] = scalar::RoundedMean<uint8_t>(s, n);
-    }
+    BoxColumns8Target(kh, rows, nullptr, nullptr, col, lanes + int64_t{kw - 1} * C);
+    BoxMeans8Target(C, kw, kh, col, static_cast<uint8_t*>(dst), lanes);
     return;
   }
   if (lane == Lane::F32) {
@@ -592,6 +601,8 @@ HWY_EXPORT(ExtremeHorizontalTarget);
 HWY_EXPORT(ExtremePairTarget);
 HWY_EXPORT(MedianRowTarget);
 HWY_EXPORT(BoxRowTarget);
+HWY_EXPORT(BoxColumns8Target);
+HWY_EXPORT(BoxMeans8Target);
 
 void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(CorrelateRowTarget)(job, rows, dst, lanes);
@@ -611,6 +622,13 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
+}
+void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                 int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxColumns8Target)(kh, rows, add, sub, col, lanes);
+}
+void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxMeans8Target)(C, kw, kh, col, dst, lanes);
 }
 }  // namespace pel::filter
 #endif

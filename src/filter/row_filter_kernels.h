@@ -90,4 +90,13 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes);
 
+// The 8-bit box of at most 257 taps with running column sums in 16-bit
+// lanes (exact: every sum fits). BoxColumns8 sets col[0, lanes) to the sums
+// of the kh rows, or, given `add`, adds the row entering the window and
+// subtracts the one leaving it (rows unused). BoxMeans8 writes the rounded
+// means of kw column sums, as BoxRow.
+void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                 int64_t lanes);
+void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes);
+
 }  // namespace pel::filter
