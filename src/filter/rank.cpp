@@ -8,6 +8,7 @@
 #include "core/common.h"
 #include "core/exports.h"
 #include "core/spec.h"
+#include "filter/filter_scalar.h"
 #include "filter/row_filter_kernels.h"
 #include "filter/window.h"
 
@@ -234,6 +235,94 @@ PelStatus Box(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize
 
 namespace {
 
+// A row or column index outside [0, n) mapped into it by one clamp or one
+// reflection.
+inline int64_t MapIndex(int64_t i, int64_t n, bool mirror) {
+  if (i < 0) return mirror ? -i : 0;
+  if (i >= n) return mirror ? 2 * n - 2 - i : n - 1;
+  return i;
+}
+
+// The separable integer extreme straight from the source, without building
+// border rows or strips: with replicate or mirror borders and nothing in
+// memory around the ROI, an extended row is a source row (its index mapped),
+// so its horizontal extreme is that row's; the few outputs whose reach
+// leaves the row on the left or right take their mapped columns one by one.
+// False (nothing done) where that does not apply: other borders, in place,
+// an AC4 layout, a ROI too narrow for an interior, or a mirror reaching
+// further than one reflection.
+template <class T, int C, int W, bool kMax>
+bool DirectExtreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi, PeliSize mask, int border,
+                   Pel8u* pBuffer) {
+  const MaskGeometry g = GeometryOf(mask.width, mask.height);
+  const bool mirror = border == pelBorderMirror;
+  const int64_t width = roi.width, height = roi.height;
+  const int64_t right = g.kw - 1 - g.ax, below = g.kh - 1 - g.ay;
+  if ((border != pelBorderReplicate && !mirror) || static_cast<const void*>(pSrc) == pDst || W != C) return false;
+  if (width - g.ax - right <= 0) return false;
+  if (mirror && (std::max(g.ax, right) > width - 1 || std::max(g.ay, below) > height - 1)) return false;
+  constexpr auto kBytes = static_cast<int64_t>(sizeof(T));
+  const auto rowBytes = static_cast<int64_t>(RoundUp64(width * C * kBytes));
+  uint8_t* ring = AlignUp64(pBuffer);
+  const uint8_t** held = reinterpret_cast<const uint8_t**>(ring + (g.kh + 2) * rowBytes);
+  const int64_t slots = g.kh + 1;
+  const int64_t inner0 = g.ax * C, innerLanes = (width - g.ax - right) * C;
+  auto ext = [](T a, T b) { return kMax ? scalar::MaxOf(a, b) : scalar::MinOf(a, b); };
+  auto source = [&](int64_t r) { return Row(pSrc, srcStep, MapIndex(r, height, mirror)); };
+  // The outputs at the left and right ends: [0, ax) and [width - right, width).
+  auto forEdges = [&](auto&& f) {
+    for (int64_t x = 0; x < g.ax; ++x) f(x);
+    for (int64_t x = width - right; x < width; ++x) f(x);
+  };
+  auto edgeRow = [&](const T* row, T* h) {
+    forEdges([&](int64_t x) {
+      for (int c = 0; c < C; ++c) {
+        T v = row[MapIndex(x - g.ax, width, mirror) * C + c];
+        for (int64_t j = 1; j < g.kw; ++j) v = ext(v, row[MapIndex(x - g.ax + j, width, mirror) * C + c]);
+        h[x * C + c] = v;
+      }
+    });
+  };
+  ExtremePairJob job{LaneOf<T>(), kMax, C, static_cast<int>(g.kw), static_cast<int>(g.kh), held};
+  for (int64_t y = 0; y < height; y += 2) {
+    const bool pair = y + 1 < height;
+    const int64_t first = (((y - g.ay) % slots) + slots) % slots;
+    auto slot = [&](int64_t i) {
+      return reinterpret_cast<T*>(ring + (first + i < slots ? first + i : first + i - slots) * rowBytes);
+    };
+    if (y == 0)
+      for (int64_t i = 0; i + 1 < g.kh; ++i) {
+        const T* row = source(i - g.ay);
+        ExtremeHorizontal(LaneOf<T>(), kMax, C, job.kw, reinterpret_cast<const uint8_t*>(row), slot(i) + inner0,
+                          innerLanes);
+        edgeRow(row, slot(i));
+      }
+    const T* a = source(y - g.ay + g.kh - 1);
+    const T* b = pair ? source(y - g.ay + g.kh) : nullptr;
+    for (int64_t i = 0; i + 1 < g.kh; ++i) held[i] = reinterpret_cast<const uint8_t*>(slot(i) + inner0);
+    T* d0 = Row(pDst, dstStep, y);
+    T* d1 = pair ? Row(pDst, dstStep, y + 1) : nullptr;
+    job.a = reinterpret_cast<const uint8_t*>(a);
+    job.b = reinterpret_cast<const uint8_t*>(b);
+    job.hA = slot(g.kh - 1) + inner0;
+    job.hB = slot(g.kh) + inner0;
+    job.out0 = d0 + inner0;
+    job.out1 = pair ? d1 + inner0 : nullptr;
+    ExtremePair(job, innerLanes);
+    edgeRow(a, slot(g.kh - 1));
+    if (pair) edgeRow(b, slot(g.kh));
+    forEdges([&](int64_t x) {
+      for (int64_t l = x * C; l < (x + 1) * C; ++l) {
+        T m = slot(g.kh - 1)[l];
+        for (int64_t i = 1; i + 1 < g.kh; ++i) m = ext(m, slot(i)[l]);
+        d0[l] = g.kh > 1 ? ext(m, slot(0)[l]) : m;
+        if (pair) d1[l] = g.kh > 1 ? ext(m, slot(g.kh)[l]) : slot(g.kh)[l];
+      }
+    });
+  }
+  return true;
+}
+
 // Integer extremes, separably: the horizontal extreme of each extended
 // source row is taken once, into a ring of kh + 1 rows, and output rows go
 // in pairs whose vertical extremes share the kh - 1 rows both cover. The
@@ -305,6 +394,8 @@ PelStatus Extreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi
   T pixel[4];
   FillPixel<T, C>(pixel, borderValue);
   if constexpr (std::is_integral_v<T>) {
+    if (DirectExtreme<T, C, W, kMax>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pBuffer))
+      return pelStatusOk;
     SeparableExtreme<T, C, W, kMax>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer);
     return pelStatusOk;
   }
