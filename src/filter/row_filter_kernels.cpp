@@ -268,8 +268,14 @@ void Pair(const ExtremePairJob& job, int64_t lanes) {
     for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + j * C));
     return v;
   };
-  for (int64_t x = 0; x < lanes; x += N) {
-    const int64_t l = std::min(x, lanes - N);  // idempotent: a last vector may overlap
+  // After a first vector, the others start where out0 is aligned to a
+  // vector: stores that split cache lines cost about twice as much. Every
+  // vector is computed on its own, so the overlaps rewrite equal values.
+  const auto addr = reinterpret_cast<uintptr_t>(job.out0);
+  const auto vecBytes = static_cast<uintptr_t>(N) * sizeof(T);
+  const int64_t skew = addr % sizeof(T) != 0 ? 0 : static_cast<int64_t>(((vecBytes - addr % vecBytes) % vecBytes) / sizeof(T));
+  for (int64_t x = 0; x < lanes; x = x == 0 && skew != 0 ? skew : x + N) {
+    const int64_t l = std::min(x, lanes - N);
     const auto ha = horizontal(a + l);
     hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
     auto m = ha;
