@@ -63,6 +63,19 @@ const T* At(const uint8_t* row, int64_t lane) {
   return reinterpret_cast<const T*>(row) + lane;
 }
 
+// Lanes of T from p to the next address aligned to n lanes (0 when p is not
+// aligned to T). Row loops start their second vector there, since stores
+// that split cache lines cost about twice as much; every vector is computed
+// on its own, so the overlap rewrites equal values.
+template <class T>
+HWY_INLINE int64_t Skew(const T* p, int64_t n) {
+  const auto addr = reinterpret_cast<uintptr_t>(p);
+  const auto bytes = static_cast<uintptr_t>(n) * sizeof(T);
+  if (addr % sizeof(T) != 0) return 0;
+  return static_cast<int64_t>(((bytes - addr % bytes) % bytes) / sizeof(T));
+}
+HWY_INLINE int64_t Next(int64_t x, int64_t skew, int64_t n) { return x == 0 && skew != 0 ? skew : x + n; }
+
 // Elements of T widened to the 32-bit lanes of d (float lanes: converted).
 template <class T, class D>
 HWY_INLINE hn::Vec<D> LoadWide(D d, const T* p) {
@@ -168,7 +181,8 @@ void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int6
   using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
   const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
   if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
-  int64_t l = 0;
+  int64_t l = Skew(dst, N);
+  if (l != 0) CorrelateBlock<1>(job, rows, dst, 0);
   for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
   for (; l + N <= lanes; l += N) CorrelateBlock<1>(job, rows, dst, l);
   // The last lanes again as one full vector: every lane is computed on its
@@ -204,7 +218,7 @@ void Extreme(int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, 
       for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], base + at)));
       hn::StoreU(v, d, tmp + at);
     }
-    for (int64_t l = 0; l < len; l += N) {
+    for (int64_t l = 0, skew = Skew(dst + base, N); l < len; l = Next(l, skew, N)) {
       const int64_t at = std::min(l, len - N);
       auto v = hn::LoadU(d, tmp + at);
       for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + at + j * C));
@@ -268,13 +282,7 @@ void Pair(const ExtremePairJob& job, int64_t lanes) {
     for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + j * C));
     return v;
   };
-  // After a first vector, the others start where out0 is aligned to a
-  // vector: stores that split cache lines cost about twice as much. Every
-  // vector is computed on its own, so the overlaps rewrite equal values.
-  const auto addr = reinterpret_cast<uintptr_t>(job.out0);
-  const auto vecBytes = static_cast<uintptr_t>(N) * sizeof(T);
-  const int64_t skew = addr % sizeof(T) != 0 ? 0 : static_cast<int64_t>(((vecBytes - addr % vecBytes) % vecBytes) / sizeof(T));
-  for (int64_t x = 0; x < lanes; x = x == 0 && skew != 0 ? skew : x + N) {
+  for (int64_t x = 0, skew = Skew(static_cast<const T*>(job.out0), N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);
     const auto ha = horizontal(a + l);
     hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
@@ -344,7 +352,7 @@ int64_t MedianFixed(int C, int kw, int kh, const uint8_t* const* rows, T* dst, i
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     V v[kN];
     for (int i = 0; i < kh; ++i)
@@ -419,7 +427,7 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
       hn::StoreU(hn::Min(ab1, t), d, mid + at);
       hn::StoreU(hn::Max(ab1, t), d, hi + at);
     }
-    for (int64_t l = 0; l < len; l += N) {
+    for (int64_t l = 0, skew = Skew(dst + base, N); l < len; l = Next(l, skew, N)) {
       const int64_t at = std::min(l, len - N);
       const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
       const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
@@ -439,7 +447,7 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   const auto rank = hn::Set(d, static_cast<uint8_t>((kw * kh - 1) / 2));
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto result = hn::Zero(d);
     for (int bit = 7; bit >= 0; --bit) {
@@ -535,7 +543,7 @@ void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, i
     const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
     hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
   };
-  for (int64_t x = 0; x < lanes; x += N16) {
+  for (int64_t x = 0, skew = Skew(dst, N16); x < lanes; x = Next(x, skew, N16)) {
     const int64_t l = std::min(x, lanes - N16);  // the last vector may overlap the one before
     auto s = hn::Zero(d16);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
@@ -563,7 +571,7 @@ int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, f
   }
   const auto n = hn::Set(d, static_cast<double>(int64_t{kw} * kh));
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto s = hn::Zero(d);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d, col + l + j * C));
