@@ -140,6 +140,41 @@ PelStatus ExtremeGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType 
                     pBufferSize);
 }
 
+namespace {
+
+// The 3x3 median of 8- and 16-bit data, two output rows at a time: the
+// window's rows for y and y + 1 give the four rows the pair covers.
+template <class T, int C>
+void MedianPairs3x3(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roi, int border, const T* pixel,
+                    Pel8u* pBuffer) {
+  const MaskGeometry g = GeometryOf(3, 3);
+  RowWindow window(pSrc, srcStep, roi.width, roi.height, g, datamove::PixelOf<T, C>(), RuleOf(border, pixel), pBuffer,
+                   static_cast<const void*>(pSrc) == pDst);
+  const Scratch s = ScratchAfter(window.End(), roi.width, g, sizeof(T), C);
+  RowWindow::Run runs[3], next[3];
+  const uint8_t* rows[3][4];
+  for (int64_t y = 0; y < roi.height; y += 2) {
+    const int n = window.Runs(y, runs);
+    T* d0 = Row(pDst, dstStep, y);
+    if (y + 1 == roi.height) {
+      for (int k = 0; k < n; ++k)
+        MedianRow(LaneOf<T>(), C, 3, 3, runs[k].rows, s.reach, s.select, d0 + runs[k].x0 * C, runs[k].count * C);
+      break;
+    }
+    for (int k = 0; k < n; ++k)
+      for (int i = 0; i < 3; ++i) rows[k][i] = runs[k].rows[i];
+    window.Runs(y + 1, next);  // the same runs, one row further down
+    T* d1 = Row(pDst, dstStep, y + 1);
+    for (int k = 0; k < n; ++k) {
+      rows[k][3] = next[k].rows[2];
+      Median3x3Pair(LaneOf<T>(), C, rows[k], s.reach, s.select, d0 + runs[k].x0 * C, d1 + runs[k].x0 * C,
+                    runs[k].count * C);
+    }
+  }
+}
+
+}  // namespace
+
 template <class T, int C, int W>
 PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiSize, PeliSize maskSize,
                  PeliBorderType border, T borderValue, Pel8u* pBuffer) {
@@ -158,6 +193,12 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
   }
   T pixel[4];
   FillPixel<T, C>(pixel, borderValue);
+  if constexpr (sizeof(T) <= 2 && W == C) {
+    if (maskSize.width == 3 && maskSize.height == 3) {
+      MedianPairs3x3<T, C>(pSrc, srcStep, pDst, dstStep, roiSize, border, pixel, pBuffer);
+      return pelStatusOk;
+    }
+  }
   Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
                     [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
                       MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);

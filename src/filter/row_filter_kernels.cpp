@@ -44,6 +44,14 @@ void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, c
 void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
   scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
 }
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* /*wide*/, void* scratch, void* dst0,
+                         void* dst1, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::MedianRow(C, 3, 3, rows, static_cast<T*>(scratch), static_cast<T*>(dst0), 0, lanes);
+    scalar::MedianRow(C, 3, 3, rows + 1, static_cast<T*>(scratch), static_cast<T*>(dst1), 0, lanes);
+  });
+}
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
@@ -439,6 +447,74 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   return lanes;
 }
 
+// Two output rows of the 3x3 median of integers (rows holds four): the
+// middle two rows are ordered once for both, and each column's order then
+// takes the top row for the first output and the bottom one for the second.
+// Integers have one median however it is found, so this gives the bytes of
+// two single rows.
+template <class T>
+void Median3x3Pair(int C, const uint8_t* const* rows, T* wide, T* dst0, T* dst1, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t piece =
+      std::min(lanes / N, std::max<int64_t>(1, 1536 / (N * static_cast<int64_t>(sizeof(T))))) * N;
+  const int64_t stride = piece + 2 * C;
+  T* lo0 = wide;
+  T* mid0 = lo0 + stride;
+  T* hi0 = mid0 + stride;
+  T* lo1 = hi0 + stride;
+  T* mid1 = lo1 + stride;
+  T* hi1 = mid1 + stride;
+  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  auto combine = [&](const T* lo, const T* mid, const T* hi, T* dst, int64_t len) HWY_ATTR {
+    for (int64_t l = 0, skew = Skew(dst, N); l < len; l = Next(l, skew, N)) {
+      const int64_t at = std::min(l, len - N);
+      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
+      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
+      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
+      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + at);
+    }
+  };
+  for (int64_t base = 0; base < lanes;) {
+    int64_t len = std::min(piece, lanes - base);
+    if (len < N) {  // a last piece of one vector overlapping the one before
+      base = lanes - N;
+      len = N;
+    }
+    const int64_t span = len + 2 * C;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
+      const auto top = hn::LoadU(d, At<T>(rows[0], base + at));
+      const auto b = hn::LoadU(d, At<T>(rows[1], base + at));
+      const auto c = hn::LoadU(d, At<T>(rows[2], base + at));
+      const auto bottom = hn::LoadU(d, At<T>(rows[3], base + at));
+      const auto small = hn::Min(b, c), large = hn::Max(b, c);
+      hn::StoreU(hn::Min(small, top), d, lo0 + at);
+      hn::StoreU(hn::Max(small, hn::Min(large, top)), d, mid0 + at);
+      hn::StoreU(hn::Max(large, top), d, hi0 + at);
+      hn::StoreU(hn::Min(small, bottom), d, lo1 + at);
+      hn::StoreU(hn::Max(small, hn::Min(large, bottom)), d, mid1 + at);
+      hn::StoreU(hn::Max(large, bottom), d, hi1 + at);
+    }
+    combine(lo0, mid0, hi0, dst0 + base, len);
+    combine(lo1, mid1, hi1, dst1 + base, len);
+    base += len;
+  }
+}
+
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0,
+                         void* dst1, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<T>()));
+    if constexpr (std::is_integral_v<T>) {
+      if (lanes >= N) return Median3x3Pair(C, rows, static_cast<T*>(wide), static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
+    }
+    scalar::MedianRow(C, 3, 3, rows, static_cast<T*>(scratch), static_cast<T*>(dst0), 0, lanes);
+    scalar::MedianRow(C, 3, 3, rows + 1, static_cast<T*>(scratch), static_cast<T*>(dst1), 0, lanes);
+  });
+}
+
 // Larger 8-bit medians: the result is built bit by bit from the top; a bit
 // stays set when at most rank taps lie below the value so far with it set.
 // Counts fit 8-bit lanes for masks of up to 255 taps.
@@ -614,6 +690,7 @@ HWY_EXPORT(ExtremeRowTarget);
 HWY_EXPORT(ExtremeHorizontalTarget);
 HWY_EXPORT(ExtremePairTarget);
 HWY_EXPORT(MedianRowTarget);
+HWY_EXPORT(Median3x3PairTarget);
 HWY_EXPORT(BoxRowTarget);
 HWY_EXPORT(BoxColumns8Target);
 HWY_EXPORT(BoxMeans8Target);
@@ -636,6 +713,10 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
+}
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+                   int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(Median3x3PairTarget)(lane, C, rows, wide, scratch, dst0, dst1, lanes);
 }
 void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
                  int64_t lanes) {

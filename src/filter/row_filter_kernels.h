@@ -90,6 +90,11 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes);
 
+// Two output rows of the 3x3 median of 8- and 16-bit lanes: rows holds the
+// four rows they cover; wide holds 6 x (lanes + 2C) elements.
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+                   int64_t lanes);
+
 // The 8-bit box of at most 257 taps with running column sums in 16-bit
 // lanes (exact: every sum fits). BoxColumns8 sets col[0, lanes) to the sums
 // of the kh rows, or, given `add`, adds the row entering the window and
