@@ -184,11 +184,64 @@ HWY_INLINE void CorrelateBlock(const CorrelateJob& job, const uint8_t* const* ro
   }
 }
 
+// 8-bit data with 16-bit coefficients and no reciprocal: taps go in pairs
+// through the 16-bit multiply-add (two exact products summed into a 32-bit
+// lane). Interleaving two taps' pixels puts them in the block order of the
+// interleave; packing the results back undoes it. Wrapping 32-bit sums are
+// the same in any order, so this is the reference's sum.
+HWY_INLINE void CorrelateU8Block(const CorrelateJob& job, const uint8_t* const* rows, uint8_t* dst, int64_t l) {
+  const hn::ScalableTag<int16_t> d16;
+  const hn::RebindToUnsigned<decltype(d16)> du16;
+  const hn::Rebind<uint8_t, decltype(d16)> d8;
+  const hn::RepartitionToWide<decltype(d16)> d32;
+  const int kn = job.kw * job.kh;
+  auto tap = [&](int t) HWY_ATTR {
+    const int i = t / job.kw, j = t % job.kw;
+    return hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, rows[i] + l + int64_t{j} * job.C)));
+  };
+  auto coef = [&](int t) { return static_cast<uint32_t>(static_cast<uint16_t>(job.revI[kn - 1 - t])); };
+  auto lo = hn::Set(d32, job.offsetI), hi = lo, unused = hn::Zero(d32);
+  for (int t = 0; t < kn; t += 2) {
+    const auto x0 = tap(t);
+    const auto x1 = t + 1 < kn ? tap(t + 1) : hn::Zero(d16);
+    const uint32_t pair = coef(t) | (t + 1 < kn ? coef(t + 1) << 16 : 0u);
+    const auto c = hn::BitCast(d16, hn::Set(d32, static_cast<int32_t>(pair)));
+    lo = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, x0, x1), c, lo, unused);
+    hi = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveUpper(d16, x0, x1), c, hi, unused);
+  }
+  if (job.divMode == 1) {
+    const int n = job.shift;
+    const auto addend = hn::Set(d32, 1 << (n - 1));
+    const auto one = hn::Set(d32, 1);
+    auto divide = [&](auto a) HWY_ATTR {
+      const auto neg = hn::Lt(a, hn::Zero(d32));
+      hn::Vec<decltype(d32)> add;
+      if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
+      else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(a, n), one));
+      else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
+      return hn::ShiftRightSame(hn::Add(a, add), n);
+    };
+    lo = divide(lo);
+    hi = divide(hi);
+  }
+  hn::StoreU(hn::DemoteTo(d8, hn::ReorderDemote2To(d16, lo, hi)), d8, dst + l);
+}
+
 template <class T>
 void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
   using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
   const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
   if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
+  if constexpr (std::is_same_v<T, uint8_t>) {
+    const int64_t N16 = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<int16_t>()));
+    if (job.intKernel && job.divMode != 2 && lanes >= N16) {
+      int64_t l = Skew(dst, N16);
+      if (l != 0) CorrelateU8Block(job, rows, dst, 0);
+      for (; l + N16 <= lanes; l += N16) CorrelateU8Block(job, rows, dst, l);
+      if (l < lanes) CorrelateU8Block(job, rows, dst, lanes - N16);
+      return;
+    }
+  }
   int64_t l = Skew(dst, N);
   if (l != 0) CorrelateBlock<1>(job, rows, dst, 0);
   for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
