@@ -189,23 +189,17 @@ HWY_INLINE void CorrelateBlock(const CorrelateJob& job, const uint8_t* const* ro
 // lane). Interleaving two taps' pixels puts them in the block order of the
 // interleave; packing the results back undoes it. Wrapping 32-bit sums are
 // the same in any order, so this is the reference's sum.
-HWY_INLINE void CorrelateU8Block(const CorrelateJob& job, const uint8_t* const* rows, uint8_t* dst, int64_t l) {
+HWY_INLINE void CorrelateU8Block(const CorrelateJob& job, const uint8_t* const* taps, const int32_t* pairs, int nPairs,
+                                 uint8_t* dst, int64_t l) {
   const hn::ScalableTag<int16_t> d16;
   const hn::RebindToUnsigned<decltype(d16)> du16;
   const hn::Rebind<uint8_t, decltype(d16)> d8;
   const hn::RepartitionToWide<decltype(d16)> d32;
-  const int kn = job.kw * job.kh;
-  auto tap = [&](int t) HWY_ATTR {
-    const int i = t / job.kw, j = t % job.kw;
-    return hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, rows[i] + l + int64_t{j} * job.C)));
-  };
-  auto coef = [&](int t) { return static_cast<uint32_t>(static_cast<uint16_t>(job.revI[kn - 1 - t])); };
   auto lo = hn::Set(d32, job.offsetI), hi = lo, unused = hn::Zero(d32);
-  for (int t = 0; t < kn; t += 2) {
-    const auto x0 = tap(t);
-    const auto x1 = t + 1 < kn ? tap(t + 1) : hn::Zero(d16);
-    const uint32_t pair = coef(t) | (t + 1 < kn ? coef(t + 1) << 16 : 0u);
-    const auto c = hn::BitCast(d16, hn::Set(d32, static_cast<int32_t>(pair)));
+  for (int p = 0; p < nPairs; ++p) {
+    const auto x0 = hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, taps[2 * p] + l)));
+    const auto x1 = hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, taps[2 * p + 1] + l)));
+    const auto c = hn::BitCast(d16, hn::Set(d32, pairs[p]));
     lo = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, x0, x1), c, lo, unused);
     hi = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveUpper(d16, x0, x1), c, hi, unused);
   }
@@ -234,11 +228,25 @@ void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int6
   if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
   if constexpr (std::is_same_v<T, uint8_t>) {
     const int64_t N16 = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<int16_t>()));
-    if (job.intKernel && job.divMode != 2 && lanes >= N16) {
+    constexpr int kMaxTaps = 64;
+    const int kn = job.kw * job.kh;
+    if (job.intKernel && job.divMode != 2 && lanes >= N16 && kn <= kMaxTaps) {
+      // The taps' first elements and their coefficients two by two (an odd
+      // last tap pairs with itself under a zero coefficient).
+      const uint8_t* taps[kMaxTaps + 1];
+      int32_t pairs[(kMaxTaps + 1) / 2];
+      for (int t = 0; t < kn; ++t) taps[t] = rows[t / job.kw] + int64_t{t % job.kw} * job.C;
+      taps[kn] = taps[kn - 1];
+      const int nPairs = (kn + 1) / 2;
+      for (int p = 0; p < nPairs; ++p) {
+        const auto c0 = static_cast<uint16_t>(job.revI[kn - 1 - 2 * p]);
+        const auto c1 = 2 * p + 1 < kn ? static_cast<uint16_t>(job.revI[kn - 2 - 2 * p]) : uint16_t{0};
+        pairs[p] = static_cast<int32_t>(c0 | (uint32_t{c1} << 16));
+      }
       int64_t l = Skew(dst, N16);
-      if (l != 0) CorrelateU8Block(job, rows, dst, 0);
-      for (; l + N16 <= lanes; l += N16) CorrelateU8Block(job, rows, dst, l);
-      if (l < lanes) CorrelateU8Block(job, rows, dst, lanes - N16);
+      if (l != 0) CorrelateU8Block(job, taps, pairs, nPairs, dst, 0);
+      for (; l + N16 <= lanes; l += N16) CorrelateU8Block(job, taps, pairs, nPairs, dst, l);
+      if (l < lanes) CorrelateU8Block(job, taps, pairs, nPairs, dst, lanes - N16);
       return;
     }
   }
