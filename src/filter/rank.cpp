@@ -349,6 +349,12 @@ bool DirectExtreme(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize ro
     job.hB = slot(g.kh) + inner0;
     job.out0 = d0 + inner0;
     job.out1 = pair ? d1 + inner0 : nullptr;
+    // The next pair's rows, fetched during this one (the hardware's own
+    // prefetch starts late on rows this far apart); kept within the rows the
+    // mapping reaches.
+    const int64_t last = height - 1 + below;
+    job.next0 = reinterpret_cast<const uint8_t*>(source(std::min(y - g.ay + g.kh + 1, last)));
+    job.next1 = reinterpret_cast<const uint8_t*>(source(std::min(y - g.ay + g.kh + 2, last)));
     ExtremePair(job, innerLanes);
     edgeRow(a, slot(g.kh - 1));
     if (pair) edgeRow(b, slot(g.kh));

@@ -13,6 +13,7 @@
 #include "filter/filter_scalar.h"
 #include "filter/median_network.h"
 #include "filter/row_filter_kernels.h"
+#include "hwy/cache_control.h"
 #include "hwy/highway.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -353,6 +354,10 @@ void Pair(const ExtremePairJob& job, int64_t lanes) {
   };
   for (int64_t x = 0, skew = Skew(static_cast<const T*>(job.out0), N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);
+    if (job.next0 != nullptr) {
+      hwy::Prefetch(reinterpret_cast<const T*>(job.next0) + l);
+      hwy::Prefetch(reinterpret_cast<const T*>(job.next1) + l);
+    }
     const auto ha = horizontal(a + l);
     hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
     auto m = ha;

@@ -78,6 +78,9 @@ struct ExtremePairJob {
   void* hB = nullptr;
   void* out0 = nullptr;
   void* out1 = nullptr;
+  // Rows the next pair will read, fetched ahead when not null.
+  const uint8_t* next0 = nullptr;
+  const uint8_t* next1 = nullptr;
 };
 void ExtremePair(const ExtremePairJob& job, int64_t lanes);
 
