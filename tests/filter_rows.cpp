@@ -543,7 +543,7 @@ std::vector<Row> FilterRows() {
     PEL_RANK(Box, Op::Box, t, C4, 4, 4, nullptr, peliFilterBoxBorder_##t##_C4R);                               \
     PEL_RANK(Box, Op::Box, t, AC4, 4, 3, nullptr, peliFilterBoxBorder_##t##_AC4R);                             \
     masks = {{3, 3, pelBorderReplicate}, {4, 2, pelBorderMirror | pelBorderInMemRight},                        \
-             {7, 7, pelBorderConstant | pelBorderInMemBottom}};                                                 \
+             {7, 7, pelBorderConstant | pelBorderInMemBottom}, {4, 3, pelBorderMirror}};                        \
     PEL_RANK(Min, Op::Min, t, C1, 1, 1, peliFilterMinBorder_##t##_C1R, nullptr);                               \
     PEL_RANK(Min, Op::Min, t, C3, 3, 3, peliFilterMinBorder_##t##_C3R, nullptr);                               \
     PEL_RANK(Min, Op::Min, t, C4, 4, 4, peliFilterMinBorder_##t##_C4R, nullptr);                               \

@@ -115,6 +115,39 @@ void ExtremeRow(bool max, int C, int kw, int kh, const uint8_t* const* rows, T* 
   }
 }
 
+// The separable extreme of integers (where the order of the taps cannot
+// change the result): the horizontal extreme of kw taps of one extended
+// row, and both passes for a pair of output rows (row_filter_kernels.h).
+template <class T>
+void ExtremeHorizontal(bool max, int C, int kw, const uint8_t* row, T* dst, int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    T v = Load<T>(row, l);
+    for (int j = 1; j < kw; ++j) v = max ? MaxOf(v, Load<T>(row, l + j * C)) : MinOf(v, Load<T>(row, l + j * C));
+    dst[l] = v;
+  }
+}
+
+template <class T>
+void ExtremePair(const ExtremePairJob& job, int64_t begin, int64_t lanes) {
+  auto ext = [&](T x, T y) { return job.max ? MaxOf(x, y) : MinOf(x, y); };
+  auto horizontal = [&](const uint8_t* row, int64_t l) {
+    T v = Load<T>(row, l);
+    for (int j = 1; j < job.kw; ++j) v = ext(v, Load<T>(row, l + j * job.C));
+    return v;
+  };
+  for (int64_t l = begin; l < lanes; ++l) {
+    const T ha = horizontal(job.a, l);
+    static_cast<T*>(job.hA)[l] = ha;
+    T m = ha;
+    for (int i = 1; i < job.kh - 1; ++i) m = ext(m, Load<T>(job.held[i], l));
+    static_cast<T*>(job.out0)[l] = job.kh > 1 ? ext(m, Load<T>(job.held[0], l)) : m;
+    if (job.b == nullptr) continue;
+    const T hb = horizontal(job.b, l);
+    static_cast<T*>(job.hB)[l] = hb;
+    static_cast<T*>(job.out1)[l] = job.kh > 1 ? ext(m, hb) : hb;
+  }
+}
+
 // The element of rank (N - 1) / 2 of each neighbourhood, by selection in a
 // copy of it (scratch holds kw x kh elements).
 template <class T>
@@ -157,6 +190,28 @@ void BoxRow(int C, int kw, int kh, const uint8_t* const* rows, void* colSums, T*
     for (int j = 0; j < kw; ++j) s = s + col[l + j * C];
     if constexpr (std::is_floating_point_v<T>) dst[l] = static_cast<T>(s / static_cast<double>(n));
     else dst[l] = RoundedMean<T>(s, n);
+  }
+}
+
+// Running 16-bit column sums of the 8-bit box (row_filter_kernels.h).
+inline void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                        int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    if (add != nullptr) {
+      col[l] = static_cast<uint16_t>(col[l] + add[l] - sub[l]);
+      continue;
+    }
+    unsigned s = 0;
+    for (int i = 0; i < kh; ++i) s += rows[i][l];
+    col[l] = static_cast<uint16_t>(s);
+  }
+}
+
+inline void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t begin, int64_t lanes) {
+  for (int64_t l = begin; l < lanes; ++l) {
+    int64_t s = 0;
+    for (int j = 0; j < kw; ++j) s += col[l + j * C];
+    dst[l] = RoundedMean<uint8_t>(s, int64_t{kw} * kh);
   }
 }
 

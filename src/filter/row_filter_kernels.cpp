@@ -13,6 +13,7 @@
 #include "filter/filter_scalar.h"
 #include "filter/median_network.h"
 #include "filter/row_filter_kernels.h"
+#include "hwy/cache_control.h"
 #include "hwy/highway.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -29,6 +30,27 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
     scalar::ExtremeRow(max, C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), 0, lanes);
+  });
+}
+void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) { scalar::ExtremeHorizontal(max, C, kw, row, static_cast<decltype(t)*>(dst), 0, lanes); });
+}
+void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) { scalar::ExtremePair<decltype(t)>(job, 0, lanes); });
+}
+void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                       int64_t lanes) {
+  scalar::BoxColumns8(kh, rows, add, sub, col, 0, lanes);
+}
+void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
+}
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* /*wide*/, void* scratch, void* dst0,
+                         void* dst1, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    scalar::MedianRow(C, 3, 3, rows, static_cast<T*>(scratch), static_cast<T*>(dst0), 0, lanes);
+    scalar::MedianRow(C, 3, 3, rows + 1, static_cast<T*>(scratch), static_cast<T*>(dst1), 0, lanes);
   });
 }
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
@@ -49,6 +71,19 @@ template <class T>
 const T* At(const uint8_t* row, int64_t lane) {
   return reinterpret_cast<const T*>(row) + lane;
 }
+
+// Lanes of T from p to the next address aligned to n lanes (0 when p is not
+// aligned to T). Row loops start their second vector there, since stores
+// that split cache lines cost about twice as much; every vector is computed
+// on its own, so the overlap rewrites equal values.
+template <class T>
+HWY_INLINE int64_t Skew(const T* p, int64_t n) {
+  const auto addr = reinterpret_cast<uintptr_t>(p);
+  const auto bytes = static_cast<uintptr_t>(n) * sizeof(T);
+  if (addr % sizeof(T) != 0) return 0;
+  return static_cast<int64_t>(((bytes - addr % bytes) % bytes) / sizeof(T));
+}
+HWY_INLINE int64_t Next(int64_t x, int64_t skew, int64_t n) { return x == 0 && skew != 0 ? skew : x + n; }
 
 // Elements of T widened to the 32-bit lanes of d (float lanes: converted).
 template <class T, class D>
@@ -150,12 +185,74 @@ HWY_INLINE void CorrelateBlock(const CorrelateJob& job, const uint8_t* const* ro
   }
 }
 
+// 8-bit data with 16-bit coefficients and no reciprocal: taps go in pairs
+// through the 16-bit multiply-add (two exact products summed into a 32-bit
+// lane). Interleaving two taps' pixels puts them in the block order of the
+// interleave; packing the results back undoes it. Wrapping 32-bit sums are
+// the same in any order, so this is the reference's sum.
+HWY_INLINE void CorrelateU8Block(const CorrelateJob& job, const uint8_t* const* taps, const int32_t* pairs, int nPairs,
+                                 uint8_t* dst, int64_t l) {
+  const hn::ScalableTag<int16_t> d16;
+  const hn::RebindToUnsigned<decltype(d16)> du16;
+  const hn::Rebind<uint8_t, decltype(d16)> d8;
+  const hn::RepartitionToWide<decltype(d16)> d32;
+  auto lo = hn::Set(d32, job.offsetI), hi = lo, unused = hn::Zero(d32);
+  for (int p = 0; p < nPairs; ++p) {
+    const auto x0 = hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, taps[2 * p] + l)));
+    const auto x1 = hn::BitCast(d16, hn::PromoteTo(du16, hn::LoadU(d8, taps[2 * p + 1] + l)));
+    const auto c = hn::BitCast(d16, hn::Set(d32, pairs[p]));
+    lo = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, x0, x1), c, lo, unused);
+    hi = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveUpper(d16, x0, x1), c, hi, unused);
+  }
+  if (job.divMode == 1) {
+    const int n = job.shift;
+    const auto addend = hn::Set(d32, 1 << (n - 1));
+    const auto one = hn::Set(d32, 1);
+    auto divide = [&](auto a) HWY_ATTR {
+      const auto neg = hn::Lt(a, hn::Zero(d32));
+      hn::Vec<decltype(d32)> add;
+      if (job.round == 0) add = hn::IfThenElseZero(neg, hn::Sub(hn::Add(addend, addend), one));
+      else if (job.round == 1) add = hn::Add(hn::Sub(addend, one), hn::And(hn::ShiftRightSame(a, n), one));
+      else add = hn::IfThenElse(neg, hn::Sub(addend, one), addend);
+      return hn::ShiftRightSame(hn::Add(a, add), n);
+    };
+    lo = divide(lo);
+    hi = divide(hi);
+  }
+  hn::StoreU(hn::DemoteTo(d8, hn::ReorderDemote2To(d16, lo, hi)), d8, dst + l);
+}
+
 template <class T>
 void Correlate(const CorrelateJob& job, const uint8_t* const* rows, T* dst, int64_t lanes) {
   using L = std::conditional_t<std::is_same_v<T, double>, double, float>;
   const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<L>()));
   if (lanes < N) return scalar::CorrelateRow(job, rows, dst, 0, lanes);
-  int64_t l = 0;
+  if constexpr (std::is_same_v<T, uint8_t>) {
+    const int64_t N16 = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<int16_t>()));
+    constexpr int kMaxTaps = 64;
+    const int kn = job.kw * job.kh;
+    if (job.intKernel && job.divMode != 2 && lanes >= N16 && kn <= kMaxTaps) {
+      // The taps' first elements and their coefficients two by two (an odd
+      // last tap pairs with itself under a zero coefficient).
+      const uint8_t* taps[kMaxTaps + 1];
+      int32_t pairs[(kMaxTaps + 1) / 2];
+      for (int t = 0; t < kn; ++t) taps[t] = rows[t / job.kw] + int64_t{t % job.kw} * job.C;
+      taps[kn] = taps[kn - 1];
+      const int nPairs = (kn + 1) / 2;
+      for (int p = 0; p < nPairs; ++p) {
+        const auto c0 = static_cast<uint16_t>(job.revI[kn - 1 - 2 * p]);
+        const auto c1 = 2 * p + 1 < kn ? static_cast<uint16_t>(job.revI[kn - 2 - 2 * p]) : uint16_t{0};
+        pairs[p] = static_cast<int32_t>(c0 | (uint32_t{c1} << 16));
+      }
+      int64_t l = Skew(dst, N16);
+      if (l != 0) CorrelateU8Block(job, taps, pairs, nPairs, dst, 0);
+      for (; l + N16 <= lanes; l += N16) CorrelateU8Block(job, taps, pairs, nPairs, dst, l);
+      if (l < lanes) CorrelateU8Block(job, taps, pairs, nPairs, dst, lanes - N16);
+      return;
+    }
+  }
+  int64_t l = Skew(dst, N);
+  if (l != 0) CorrelateBlock<1>(job, rows, dst, 0);
   for (; l + 4 * N <= lanes; l += 4 * N) CorrelateBlock<4>(job, rows, dst, l);
   for (; l + N <= lanes; l += N) CorrelateBlock<1>(job, rows, dst, l);
   // The last lanes again as one full vector: every lane is computed on its
@@ -191,7 +288,7 @@ void Extreme(int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, 
       for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], base + at)));
       hn::StoreU(v, d, tmp + at);
     }
-    for (int64_t l = 0; l < len; l += N) {
+    for (int64_t l = 0, skew = Skew(dst + base, N); l < len; l = Next(l, skew, N)) {
       const int64_t at = std::min(l, len - N);
       auto v = hn::LoadU(d, tmp + at);
       for (int j = 1; j < kw; ++j) v = op(v, hn::LoadU(d, tmp + at + j * C));
@@ -207,6 +304,101 @@ void ExtremeRowTarget(Lane lane, bool max, int C, int kw, int kh, const uint8_t*
     using T = decltype(t);
     if (max) Extreme<true>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
     else Extreme<false>(C, kw, kh, rows, static_cast<T*>(tmp), static_cast<T*>(dst), lanes);
+  });
+}
+
+template <bool kMax, class V>
+HWY_INLINE V ExtremeOf(V a, V b) {
+  if constexpr (kMax) return hn::Max(a, b);
+  else return hn::Min(a, b);
+}
+
+// Integer lanes only: the order of the taps does not matter, and both
+// operations are idempotent, so a last vector may overlap the one before.
+template <bool kMax, class T>
+void Horizontal(int C, int kw, const uint8_t* row, T* dst, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  if (lanes < N) return scalar::ExtremeHorizontal(kMax, C, kw, row, dst, 0, lanes);
+  const T* p = reinterpret_cast<const T*>(row);
+  for (int64_t x = 0; x < lanes; x += N) {
+    const int64_t l = std::min(x, lanes - N);
+    auto v = hn::LoadU(d, p + l);
+    for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + l + j * C));
+    hn::StoreU(v, d, dst + l);
+  }
+}
+
+// kKW, kKH: the mask's size when fixed at compile time (the common square
+// masks, fully unrolled), 0 when read from the job.
+template <bool kMax, int kKW, int kKH, class T>
+void Pair(const ExtremePairJob& job, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  if (lanes < N) return scalar::ExtremePair<T>(job, 0, lanes);
+  const int C = job.C;
+  const int kw = kKW ? kKW : job.kw, kh = kKH ? kKH : job.kh;
+  const T* a = reinterpret_cast<const T*>(job.a);
+  const T* b = reinterpret_cast<const T*>(job.b);
+  const T* held[kKH ? kKH : 1];
+  if constexpr (kKH != 0)
+    for (int i = 0; i + 1 < kKH; ++i) held[i] = reinterpret_cast<const T*>(job.held[i]);
+  auto heldAt = [&](int i, int64_t l) {
+    if constexpr (kKH != 0) return hn::LoadU(d, held[i] + l);
+    else return hn::LoadU(d, reinterpret_cast<const T*>(job.held[i]) + l);
+  };
+  auto horizontal = [&](const T* p) HWY_ATTR {
+    auto v = hn::LoadU(d, p);
+    for (int j = 1; j < kw; ++j) v = ExtremeOf<kMax>(v, hn::LoadU(d, p + j * C));
+    return v;
+  };
+  for (int64_t x = 0, skew = Skew(static_cast<const T*>(job.out0), N); x < lanes; x = Next(x, skew, N)) {
+    const int64_t l = std::min(x, lanes - N);
+    if (job.next0 != nullptr) {
+      hwy::Prefetch(reinterpret_cast<const T*>(job.next0) + l);
+      hwy::Prefetch(reinterpret_cast<const T*>(job.next1) + l);
+    }
+    const auto ha = horizontal(a + l);
+    hn::StoreU(ha, d, static_cast<T*>(job.hA) + l);
+    auto m = ha;
+    for (int i = 1; i < kh - 1; ++i) m = ExtremeOf<kMax>(m, heldAt(i, l));
+    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, heldAt(0, l)) : m, d, static_cast<T*>(job.out0) + l);
+    if (b == nullptr) continue;
+    const auto hb = horizontal(b + l);
+    hn::StoreU(hb, d, static_cast<T*>(job.hB) + l);
+    hn::StoreU(kh > 1 ? ExtremeOf<kMax>(m, hb) : hb, d, static_cast<T*>(job.out1) + l);
+  }
+}
+
+template <bool kMax, class T>
+void PairOfSize(const ExtremePairJob& job, int64_t lanes) {
+  if (job.kw == 3 && job.kh == 3) Pair<kMax, 3, 3, T>(job, lanes);
+  else if (job.kw == 5 && job.kh == 5) Pair<kMax, 5, 5, T>(job, lanes);
+  else if (job.kw == 7 && job.kh == 7) Pair<kMax, 7, 7, T>(job, lanes);
+  else Pair<kMax, 0, 0, T>(job, lanes);
+}
+
+void ExtremePairTarget(const ExtremePairJob& job, int64_t lanes) {
+  VisitLane(job.lane, [&](auto t) {
+    using T = decltype(t);
+    if constexpr (std::is_integral_v<T>) {
+      if (job.max) PairOfSize<true, T>(job, lanes);
+      else PairOfSize<false, T>(job, lanes);
+    } else {
+      scalar::ExtremePair<T>(job, 0, lanes);
+    }
+  });
+}
+
+void ExtremeHorizontalTarget(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    if constexpr (std::is_integral_v<T>) {
+      if (max) Horizontal<true>(C, kw, row, static_cast<T*>(dst), lanes);
+      else Horizontal<false>(C, kw, row, static_cast<T*>(dst), lanes);
+    } else {
+      scalar::ExtremeHorizontal(max, C, kw, row, static_cast<T*>(dst), 0, lanes);
+    }
   });
 }
 
@@ -234,7 +426,7 @@ int64_t MedianFixed(int C, int kw, int kh, const uint8_t* const* rows, T* dst, i
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     V v[kN];
     for (int i = 0; i < kh; ++i)
@@ -286,7 +478,7 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   // first-level cache between the two passes.
   if (lanes < N) return 0;
   const int64_t piece =
-      std::min(lanes / N, std::max<int64_t>(1, 2048 / (N * static_cast<int64_t>(sizeof(T))))) * N;
+      std::min(lanes / N, std::max<int64_t>(1, 1536 / (N * static_cast<int64_t>(sizeof(T))))) * N;
   T* lo = wide;
   T* mid = wide + piece + 2 * C;
   T* hi = mid + piece + 2 * C;
@@ -309,7 +501,7 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
       hn::StoreU(hn::Min(ab1, t), d, mid + at);
       hn::StoreU(hn::Max(ab1, t), d, hi + at);
     }
-    for (int64_t l = 0; l < len; l += N) {
+    for (int64_t l = 0, skew = Skew(dst + base, N); l < len; l = Next(l, skew, N)) {
       const int64_t at = std::min(l, len - N);
       const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
       const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
@@ -321,6 +513,74 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   return lanes;
 }
 
+// Two output rows of the 3x3 median of integers (rows holds four): the
+// middle two rows are ordered once for both, and each column's order then
+// takes the top row for the first output and the bottom one for the second.
+// Integers have one median however it is found, so this gives the bytes of
+// two single rows.
+template <class T>
+void Median3x3Pair(int C, const uint8_t* const* rows, T* wide, T* dst0, T* dst1, int64_t lanes) {
+  const hn::ScalableTag<T> d;
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  const int64_t piece =
+      std::min(lanes / N, std::max<int64_t>(1, 1536 / (N * static_cast<int64_t>(sizeof(T))))) * N;
+  const int64_t stride = piece + 2 * C;
+  T* lo0 = wide;
+  T* mid0 = lo0 + stride;
+  T* hi0 = mid0 + stride;
+  T* lo1 = hi0 + stride;
+  T* mid1 = lo1 + stride;
+  T* hi1 = mid1 + stride;
+  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  auto combine = [&](const T* lo, const T* mid, const T* hi, T* dst, int64_t len) HWY_ATTR {
+    for (int64_t l = 0, skew = Skew(dst, N); l < len; l = Next(l, skew, N)) {
+      const int64_t at = std::min(l, len - N);
+      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
+      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
+      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
+      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + at);
+    }
+  };
+  for (int64_t base = 0; base < lanes;) {
+    int64_t len = std::min(piece, lanes - base);
+    if (len < N) {  // a last piece of one vector overlapping the one before
+      base = lanes - N;
+      len = N;
+    }
+    const int64_t span = len + 2 * C;
+    for (int64_t l = 0; l < span; l += N) {
+      const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
+      const auto top = hn::LoadU(d, At<T>(rows[0], base + at));
+      const auto b = hn::LoadU(d, At<T>(rows[1], base + at));
+      const auto c = hn::LoadU(d, At<T>(rows[2], base + at));
+      const auto bottom = hn::LoadU(d, At<T>(rows[3], base + at));
+      const auto small = hn::Min(b, c), large = hn::Max(b, c);
+      hn::StoreU(hn::Min(small, top), d, lo0 + at);
+      hn::StoreU(hn::Max(small, hn::Min(large, top)), d, mid0 + at);
+      hn::StoreU(hn::Max(large, top), d, hi0 + at);
+      hn::StoreU(hn::Min(small, bottom), d, lo1 + at);
+      hn::StoreU(hn::Max(small, hn::Min(large, bottom)), d, mid1 + at);
+      hn::StoreU(hn::Max(large, bottom), d, hi1 + at);
+    }
+    combine(lo0, mid0, hi0, dst0 + base, len);
+    combine(lo1, mid1, hi1, dst1 + base, len);
+    base += len;
+  }
+}
+
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0,
+                         void* dst1, int64_t lanes) {
+  VisitLane(lane, [&](auto t) {
+    using T = decltype(t);
+    const int64_t N = static_cast<int64_t>(hn::Lanes(hn::ScalableTag<T>()));
+    if constexpr (std::is_integral_v<T>) {
+      if (lanes >= N) return Median3x3Pair(C, rows, static_cast<T*>(wide), static_cast<T*>(dst0), static_cast<T*>(dst1), lanes);
+    }
+    scalar::MedianRow(C, 3, 3, rows, static_cast<T*>(scratch), static_cast<T*>(dst0), 0, lanes);
+    scalar::MedianRow(C, 3, 3, rows + 1, static_cast<T*>(scratch), static_cast<T*>(dst1), 0, lanes);
+  });
+}
+
 // Larger 8-bit medians: the result is built bit by bit from the top; a bit
 // stays set when at most rank taps lie below the value so far with it set.
 // Counts fit 8-bit lanes for masks of up to 255 taps.
@@ -329,18 +589,34 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
   const auto rank = hn::Set(d, static_cast<uint8_t>((kw * kh - 1) / 2));
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto result = hn::Zero(d);
     for (int bit = 7; bit >= 0; --bit) {
       const auto t = hn::Or(result, hn::Set(d, static_cast<uint8_t>(1u << bit)));
       const auto below = hn::Sub(t, hn::Set(d, 1));  // x < t  <=>  min(x, t - 1) == x
+#if HWY_TARGET <= HWY_AVX3
+      // A compare into a mask register and a masked increment a tap, in two
+      // chains so that the increments do not wait on each other.
+      (void)below;
+      const __m512i tr = t.raw, one = _mm512_set1_epi8(1);
+      __m512i c0 = _mm512_setzero_si512(), c1 = _mm512_setzero_si512();
+      int tap = 0;
+      for (int i = 0; i < kh; ++i)
+        for (int j = 0; j < kw; ++j, ++tap) {
+          const __m512i x = _mm512_loadu_si512(At<uint8_t>(rows[i], l + j * C));
+          if (tap & 1) c1 = _mm512_mask_add_epi8(c1, _mm512_cmplt_epu8_mask(x, tr), c1, one);
+          else c0 = _mm512_mask_add_epi8(c0, _mm512_cmplt_epu8_mask(x, tr), c0, one);
+        }
+      const hn::Vec<decltype(d)> count{_mm512_add_epi8(c0, c1)};
+#else
       auto count = hn::Zero(d);
       for (int i = 0; i < kh; ++i)
         for (int j = 0; j < kw; ++j) {
           const auto x = hn::LoadU(d, At<uint8_t>(rows[i], l + j * C));
           count = hn::Sub(count, hn::VecFromMask(d, hn::Eq(hn::Min(x, below), x)));
         }
+#endif
       result = hn::IfThenElse(hn::Eq(hn::Min(count, rank), count), t, result);
     }
     hn::StoreU(result, d, dst + l);
@@ -364,25 +640,35 @@ void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* row
   });
 }
 
-// 8-bit box with at most 257 taps: sums fit 16 bits; the rounded mean
-// floor((2s + N) / 2N) is exact in single precision from (2s + N + 1/2)
-// times the reciprocal, the error staying far below the distance 1/4N of
-// every such quotient from an integer.
-int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, uint8_t* dst, int64_t lanes) {
+// 8-bit box with at most 257 taps: sums fit 16 bits, and 16-bit lanes wrap,
+// so adding the entering row and subtracting the leaving one keeps every
+// column sum exact.
+void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                       int64_t lanes) {
   const hn::ScalableTag<uint16_t> d16;
   const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
-  const int64_t wide = lanes + int64_t{kw - 1} * C;
   int64_t l = 0;
-  for (; l + N16 <= wide; l += N16) {
-    auto s = hn::Zero(d16);
-    for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
-    hn::StoreU(s, d16, col + l);
+  if (add != nullptr) {
+    for (; l + N16 <= lanes; l += N16)
+      hn::StoreU(hn::Sub(hn::Add(hn::LoadU(d16, col + l), LoadWide(d16, add + l)), LoadWide(d16, sub + l)), d16,
+                 col + l);
+  } else {
+    for (; l + N16 <= lanes; l += N16) {
+      auto s = hn::Zero(d16);
+      for (int i = 0; i < kh; ++i) s = hn::Add(s, LoadWide(d16, At<uint8_t>(rows[i], l)));
+      hn::StoreU(s, d16, col + l);
+    }
   }
-  for (; l < wide; ++l) {
-    unsigned s = 0;
-    for (int i = 0; i < kh; ++i) s += rows[i][l];
-    col[l] = static_cast<uint16_t>(s);
-  }
+  scalar::BoxColumns8(kh, rows, add, sub, col, l, lanes);
+}
+
+// The rounded mean floor((2s + N) / 2N) is exact in single precision from
+// (2s + N + 1/2) times the reciprocal, the error staying far below the
+// distance 1/4N of every such quotient from an integer.
+void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  const hn::ScalableTag<uint16_t> d16;
+  const int64_t N16 = static_cast<int64_t>(hn::Lanes(d16));
+  if (lanes < N16) return scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
   // Sums of up to 257 taps fit 16-bit lanes; the division widens them.
   const hn::Half<decltype(d16)> dh16;
   const hn::Rebind<uint32_t, decltype(dh16)> du;
@@ -394,20 +680,18 @@ int64_t Box8(int C, int kw, int kh, const uint8_t* const* rows, uint16_t* col, u
   const auto bias = hn::Set(di, n);
   const auto half = hn::Set(df, 0.5f);
   const auto recip = hn::Set(df, 1.0f / static_cast<float>(2 * n));
-  auto mean = [&](auto s16, uint8_t* out) {
+  auto mean = [&](auto s16, uint8_t* out) HWY_ATTR {
     const auto s = hn::BitCast(di, hn::PromoteTo(du, s16));
     const auto q = hn::Mul(hn::Add(hn::ConvertTo(df, hn::Add(hn::Add(s, s), bias)), half), recip);
     hn::StoreU(hn::DemoteTo(d8, hn::ConvertTo(di, q)), d8, out);
   };
-  if (lanes < N16) return 0;
-  for (int64_t x = 0; x < lanes; x += N16) {
-    l = std::min(x, lanes - N16);  // the last vector may overlap the one before
+  for (int64_t x = 0, skew = Skew(dst, N16); x < lanes; x = Next(x, skew, N16)) {
+    const int64_t l = std::min(x, lanes - N16);  // the last vector may overlap the one before
     auto s = hn::Zero(d16);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d16, col + l + j * C));
     mean(hn::LowerHalf(dh16, s), dst + l);
     mean(hn::UpperHalf(dh16, s), dst + l + NH);
   }
-  return lanes;
 }
 
 // 32f box: f64 column sums, then the kw sums left to right, as the reference.
@@ -429,7 +713,7 @@ int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, f
   }
   const auto n = hn::Set(d, static_cast<double>(int64_t{kw} * kh));
   if (lanes < N) return 0;
-  for (int64_t x = 0; x < lanes; x += N) {
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
     l = std::min(x, lanes - N);  // the last vector may overlap the one before
     auto s = hn::Zero(d);
     for (int j = 0; j < kw; ++j) s = hn::Add(s, hn::LoadU(d, col + l + j * C));
@@ -441,15 +725,9 @@ int64_t Box32f(int C, int kw, int kh, const uint8_t* const* rows, double* col, f
 void BoxRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
                   int64_t lanes) {
   if (lane == Lane::U8 && int64_t{kw} * kh <= 257) {
-    auto* d = static_cast<uint8_t*>(dst);
     auto* col = static_cast<uint16_t*>(colSums);
-    const int64_t done = Box8(C, kw, kh, rows, col, d, lanes);
-    const int n = kw * kh;
-    for (int64_t l = done; l < lanes; ++l) {
-      int64_t s = 0;
-      for (int j = 0; j < kw; ++j) s += col[l + j * C];
-      d[l] = scalar::RoundedMean<uint8_t>(s, n);
-    }
+    BoxColumns8Target(kh, rows, nullptr, nullptr, col, lanes + int64_t{kw - 1} * C);
+    BoxMeans8Target(C, kw, kh, col, static_cast<uint8_t*>(dst), lanes);
     return;
   }
   if (lane == Lane::F32) {
@@ -475,8 +753,13 @@ HWY_AFTER_NAMESPACE();
 namespace pel::filter {
 HWY_EXPORT(CorrelateRowTarget);
 HWY_EXPORT(ExtremeRowTarget);
+HWY_EXPORT(ExtremeHorizontalTarget);
+HWY_EXPORT(ExtremePairTarget);
 HWY_EXPORT(MedianRowTarget);
+HWY_EXPORT(Median3x3PairTarget);
 HWY_EXPORT(BoxRowTarget);
+HWY_EXPORT(BoxColumns8Target);
+HWY_EXPORT(BoxMeans8Target);
 
 void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst, int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(CorrelateRowTarget)(job, rows, dst, lanes);
@@ -485,6 +768,10 @@ void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const
                 int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(ExtremeRowTarget)(lane, max, C, kw, kh, rows, tmp, dst, lanes);
 }
+void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(ExtremeHorizontalTarget)(lane, max, C, kw, row, dst, lanes);
+}
+void ExtremePair(const ExtremePairJob& job, int64_t lanes) { HWY_DYNAMIC_DISPATCH(ExtremePairTarget)(job, lanes); }
 void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
                int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, wide, scratch, dst, lanes);
@@ -492,6 +779,17 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
+}
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+                   int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(Median3x3PairTarget)(lane, C, rows, wide, scratch, dst0, dst1, lanes);
+}
+void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                 int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxColumns8Target)(kh, rows, add, sub, col, lanes);
+}
+void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
+  HWY_DYNAMIC_DISPATCH(BoxMeans8Target)(C, kw, kh, col, dst, lanes);
 }
 }  // namespace pel::filter
 #endif

@@ -58,6 +58,32 @@ void CorrelateRow(const CorrelateJob& job, const uint8_t* const* rows, void* dst
 void ExtremeRow(Lane lane, bool max, int C, int kw, int kh, const uint8_t* const* rows, void* tmp, void* dst,
                 int64_t lanes);
 
+// The separable extreme of integer lanes (U8, S16, U16): the horizontal
+// extreme of kw taps of one extended row.
+void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, void* dst, int64_t lanes);
+
+// Both passes for a pair of output rows in one sweep: the rows a and b
+// (extended source rows, b may be null) enter the window, their horizontal
+// extremes go to hA and hB for later pairs, and out0 (out1) gets the
+// vertical extreme of held[0 .. kh - 2] and a (held[1 .. kh - 2], a and b);
+// held are the horizontal extremes of the kh - 1 rows above a.
+struct ExtremePairJob {
+  Lane lane;
+  bool max;
+  int C, kw, kh;
+  const uint8_t* const* held;
+  const uint8_t* a = nullptr;
+  const uint8_t* b = nullptr;
+  void* hA = nullptr;
+  void* hB = nullptr;
+  void* out0 = nullptr;
+  void* out1 = nullptr;
+  // Rows the next pair will read, fetched ahead when not null.
+  const uint8_t* next0 = nullptr;
+  const uint8_t* next1 = nullptr;
+};
+void ExtremePair(const ExtremePairJob& job, int64_t lanes);
+
 // Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
 // elements, scratch kw x kh.
 void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
@@ -66,5 +92,19 @@ void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, voi
 // Box mean over kw x kh; colSums holds lanes + (kw - 1) x C eight-byte sums.
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes);
+
+// Two output rows of the 3x3 median of 8- and 16-bit lanes: rows holds the
+// four rows they cover; wide holds 6 x (lanes + 2C) elements.
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+                   int64_t lanes);
+
+// The 8-bit box of at most 257 taps with running column sums in 16-bit
+// lanes (exact: every sum fits). BoxColumns8 sets col[0, lanes) to the sums
+// of the kh rows, or, given `add`, adds the row entering the window and
+// subtracts the one leaving it (rows unused). BoxMeans8 writes the rounded
+// means of kw column sums, as BoxRow.
+void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
+                 int64_t lanes);
+void BoxMeans8(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes);
 
 }  // namespace pel::filter

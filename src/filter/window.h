@@ -63,6 +63,7 @@ class RowWindow {
  private:
   const uint8_t* SourceRow(int64_t r) const;
   bool InMemory(int64_t r) const;
+  bool BuildStrip(int64_t r, int64_t x0, int64_t width, uint8_t* dst) const;
 
   datamove::BorderSource src_;
   datamove::BorderRule rule_;
