@@ -22,6 +22,8 @@ import numpy as np
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import cv2  # noqa: E402
+
+cv2.setNumThreads(1)  # pel is single-threaded; so is the comparison
 import pel  # noqa: E402
 from pel import _core, raw  # noqa: E402
 
