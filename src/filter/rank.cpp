@@ -104,6 +104,22 @@ void FillPixel(T (&pixel)[4], T value) {
 
 }  // namespace
 
+namespace {
+
+// The box and extreme filters' buffer-size checks, in their order.
+PelStatus CheckWindowSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
+                          const int* pBufferSize) {
+  if (pBufferSize == nullptr) return pelStatusNullPointer;
+  if (BadSize(roiSize)) return pelStatusBadSize;
+  if (BadSize(maskSize)) return pelStatusBadMaskSize;
+  if (!TypeOf4(dataType)) return pelStatusDataTypeError;
+  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
+  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  return pelStatusOk;
+}
+
+}  // namespace
+
 PelStatus MedianGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
                               int* pBufferSize) {
   if (pBufferSize == nullptr) return pelStatusNullPointer;
@@ -117,23 +133,19 @@ PelStatus MedianGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType d
 
 PelStatus BoxGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
                            int* pBufferSize) {
-  if (pBufferSize == nullptr) return pelStatusNullPointer;
-  if (BadSize(roiSize)) return pelStatusBadSize;
-  if (BadSize(maskSize)) return pelStatusBadMaskSize;
-  if (!TypeOf4(dataType)) return pelStatusDataTypeError;
-  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
-  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  if (const PelStatus st = CheckWindowSize(roiSize, maskSize, dataType, numChannels, pBufferSize);
+      st != pelStatusOk) {
+    return st;
+  }
   return ReportSize(RankBufferBytes(roiSize.width, maskSize, ElementBytes(dataType), numChannels), pBufferSize);
 }
 
 PelStatus ExtremeGetBufferSize(PeliSize roiSize, PeliSize maskSize, PelDataType dataType, int numChannels,
                                int* pBufferSize) {
-  if (pBufferSize == nullptr) return pelStatusNullPointer;
-  if (BadSize(roiSize)) return pelStatusBadSize;
-  if (BadSize(maskSize)) return pelStatusBadMaskSize;
-  if (!TypeOf4(dataType)) return pelStatusDataTypeError;
-  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return pelStatusChannelsNotSupported;
-  if (Oversized(roiSize.width, maskSize, numChannels)) return pelStatusSizeOverflow;
+  if (const PelStatus st = CheckWindowSize(roiSize, maskSize, dataType, numChannels, pBufferSize);
+      st != pelStatusOk) {
+    return st;
+  }
   const int64_t elem = ElementBytes(dataType);
   return ReportSize(RankBufferBytes(roiSize.width, maskSize, elem, numChannels) +
                         HorizontalRingBytes(roiSize.width, maskSize.height, elem, numChannels),

@@ -467,6 +467,21 @@ int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* ds
   return l;
 }
 
+// The medians of one output row from its sorted columns (lo, mid, hi: the
+// least, middle and greatest of each column of three, C lanes apart).
+template <class D, class T = hn::TFromD<D>>
+HWY_INLINE void Median3x3Combine(D d, int C, const T* lo, const T* mid, const T* hi, T* dst, int64_t len) {
+  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
+  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  for (int64_t l = 0, skew = Skew(dst, N); l < len; l = Next(l, skew, N)) {
+    const int64_t at = std::min(l, len - N);
+    const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
+    const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
+    const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
+    hn::StoreU(med3(maxLo, medMid, minHi), d, dst + at);
+  }
+}
+
 // 3x3: each column of three is sorted once for the three outputs that share
 // it; the median of the nine is then the median of the largest column
 // minimum, the median of the column medians and the smallest column maximum.
@@ -482,7 +497,6 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
   T* lo = wide;
   T* mid = wide + piece + 2 * C;
   T* hi = mid + piece + 2 * C;
-  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
   for (int64_t base = 0; base < lanes;) {
     int64_t len = std::min(piece, lanes - base);
     if (len < N) {  // a last piece of one vector overlapping the one before
@@ -501,13 +515,7 @@ int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t la
       hn::StoreU(hn::Min(ab1, t), d, mid + at);
       hn::StoreU(hn::Max(ab1, t), d, hi + at);
     }
-    for (int64_t l = 0, skew = Skew(dst + base, N); l < len; l = Next(l, skew, N)) {
-      const int64_t at = std::min(l, len - N);
-      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
-      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
-      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
-      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + base + at);
-    }
+    Median3x3Combine(d, C, lo, mid, hi, dst + base, len);
     base += len;
   }
   return lanes;
@@ -531,15 +539,8 @@ void Median3x3Pair(int C, const uint8_t* const* rows, T* wide, T* dst0, T* dst1,
   T* lo1 = hi0 + stride;
   T* mid1 = lo1 + stride;
   T* hi1 = mid1 + stride;
-  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
   auto combine = [&](const T* lo, const T* mid, const T* hi, T* dst, int64_t len) HWY_ATTR {
-    for (int64_t l = 0, skew = Skew(dst, N); l < len; l = Next(l, skew, N)) {
-      const int64_t at = std::min(l, len - N);
-      const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
-      const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
-      const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
-      hn::StoreU(med3(maxLo, medMid, minHi), d, dst + at);
-    }
+    Median3x3Combine(d, C, lo, mid, hi, dst, len);
   };
   for (int64_t base = 0; base < lanes;) {
     int64_t len = std::min(piece, lanes - base);
