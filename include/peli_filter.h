@@ -19,6 +19,8 @@ extern "C" {
  * elsewhere. Calling order: GetSize, Init (16s, 32f or 64f kernel), an
  * optional SetMode, then any number of filter calls; the spec is read-only
  * while filtering and may be shared, the buffer is each call's scratch.
+ * The buffer size may be larger on processors with PEL_CPUID_AVX512WIDE
+ * (pelcore.h), so ask GetSize on the machine that filters.
  *
  * Integer kernels (Init_16s) sum exact products in 32-bit integers (which
  * wrap, for kernels whose sums exceed that range), add offset x divisor, and

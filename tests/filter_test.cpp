@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "pelcore.h"
 #include "peli.h"
 
 namespace {
@@ -73,6 +74,17 @@ TEST(FilterWorked, InPlaceInit) {
   Pel32f dst[4] = {};
   ASSERT_EQ(peliFilterBorder_32f_C1R(src, 16, dst, 16, {4, 1}, pelBorderReplicate, nullptr, s, buf.data()), pelStatusOk);
   EXPECT_EQ(std::vector<Pel32f>(dst, dst + 4), (std::vector<Pel32f>{1, 1, 2, 3}));
+}
+
+TEST(FilterWorked, BufferRoomForWideKernelLayout) {
+  // A 63x63 kernel over one pixel: with 64-byte byte vectors the buffer holds
+  // 63 rows of sixteen 64-byte groups of four taps, plus the 128-byte slack,
+  // which is more than the plain layout needs.
+  int specBytes = 0, bufBytes = 0;
+  ASSERT_EQ(peliFilterBorderGetSize({63, 63}, {1, 1}, pelType8u, pelType16s, 1, &specBytes, &bufBytes), pelStatusOk);
+  const int wide = (63 * 64 * 16 + 191) & ~63;
+  if (ownGetFeature(PEL_CPUID_AVX512WIDE)) EXPECT_EQ(bufBytes, wide);
+  else EXPECT_LT(bufBytes, wide);
 }
 
 TEST(FilterWorked, MedianInPlace) {

@@ -11,6 +11,7 @@
 #include "core/spec.h"
 #include "filter/row_filter_kernels.h"
 #include "filter/window.h"
+#include "pelcore.h"
 
 namespace pel::filter {
 namespace {
@@ -171,7 +172,12 @@ PelStatus FilterBorderGetSize(PeliSize kernelSize, PeliSize roiSize, PelDataType
   const int64_t px = ElementBytes(dataType) * numChannels;
   const int64_t borderArea = ((px * elems + 31) & ~int64_t{31}) + 32;
   const int64_t work = (WindowBufferBytes(W, g, static_cast<int>(px)) + 191) & ~int64_t{63};
-  const int64_t buffer = borderArea + work + (dataType == pelType64f ? 126 : 63);
+  int64_t buffer = borderArea + work + (dataType == pelType64f ? 126 : 63);
+  // On processors where 64-byte vectors pay for byte and word data, the
+  // buffer is also large enough for the kernel spread over 64-byte rows of
+  // four taps each, so a size obtained there suits a wide kernel layout too
+  // (it only matters for tiny ROIs; the plain size is usually larger).
+  if (ownGetFeature(PEL_CPUID_AVX512WIDE)) buffer = std::max(buffer, (kh * 64 * ((kw + 3) / 4) + 191) & ~int64_t{63});
   if (buffer > kMaxReportedSize || spec > kMaxReportedSize) {
     *pBufferSize = 0;
     return pelStatusSizeOverflow;
