@@ -72,6 +72,16 @@ const T* At(const uint8_t* row, int64_t lane) {
   return reinterpret_cast<const T*>(row) + lane;
 }
 
+// Asks for the source 2 KiB ahead of a lane in the row that enters the
+// window with this output row. On images larger than the last-level cache
+// that row comes from memory, and a loop that reads kh rows and writes
+// scratch leaves the hardware prefetchers behind (the 3x3 minimum of 32f
+// on 3840x2160 took a fifth longer without). Prefetches never fault.
+template <class T>
+HWY_INLINE void PrefetchAhead(const uint8_t* row, int64_t lane) {
+  hwy::Prefetch(row + lane * static_cast<int64_t>(sizeof(T)) + 2048);
+}
+
 // Lanes of T from p to the next address aligned to n lanes (0 when p is not
 // aligned to T). Row loops start their second vector there, since stores
 // that split cache lines cost about twice as much; every vector is computed
@@ -284,6 +294,7 @@ void Extreme(int C, int kw, int kh, const uint8_t* const* rows, T* tmp, T* dst, 
     const int64_t span = len + reach;
     for (int64_t l = 0; l < span; l += N) {
       const int64_t at = std::min(l, span - N);
+      PrefetchAhead<T>(rows[kh - 1], base + at);
       auto v = hn::LoadU(d, At<T>(rows[0], base + at));
       for (int i = 1; i < kh; ++i) v = op(v, hn::LoadU(d, At<T>(rows[i], base + at)));
       hn::StoreU(v, d, tmp + at);
