@@ -24,8 +24,8 @@ bool TypeOf4(int dataType) {
 }
 
 // What every rank filter needs from the buffer besides its window: a row of
-// the full mask's reach (extremes' vertical pass, box column sums of eight
-// bytes a lane, or the median's three sorted columns), an output row for AC4
+// the full mask's reach (extremes' vertical pass, or box column sums of
+// eight bytes a lane), an output row for AC4
 // and the median's selection scratch.
 int64_t RankBufferBytes(int64_t W, PeliSize mask, int64_t elemBytes, int channels) {
   const MaskGeometry g = GeometryOf(mask.width, mask.height);
@@ -170,7 +170,7 @@ void MedianPairs3x3(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize r
     T* d0 = Row(pDst, dstStep, y);
     if (y + 1 == roi.height) {
       for (int k = 0; k < n; ++k)
-        MedianRow(LaneOf<T>(), C, 3, 3, runs[k].rows, s.reach, s.select, d0 + runs[k].x0 * C, runs[k].count * C);
+        MedianRow(LaneOf<T>(), C, 3, 3, runs[k].rows, s.select, d0 + runs[k].x0 * C, runs[k].count * C);
       break;
     }
     for (int k = 0; k < n; ++k)
@@ -179,7 +179,7 @@ void MedianPairs3x3(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize r
     T* d1 = Row(pDst, dstStep, y + 1);
     for (int k = 0; k < n; ++k) {
       rows[k][3] = next[k].rows[2];
-      Median3x3Pair(LaneOf<T>(), C, rows[k], s.reach, s.select, d0 + runs[k].x0 * C, d1 + runs[k].x0 * C,
+      Median3x3Pair(LaneOf<T>(), C, rows[k], s.select, d0 + runs[k].x0 * C, d1 + runs[k].x0 * C,
                     runs[k].count * C);
     }
   }
@@ -213,7 +213,7 @@ PelStatus Median(const T* pSrc, int srcStep, T* pDst, int dstStep, PeliSize roiS
   }
   Filtered<T, C, W>(pSrc, srcStep, pDst, dstStep, roiSize, maskSize, border, pixel, pBuffer,
                     [&](const uint8_t* const* rows, T* out, int64_t lanes, const Scratch& s) {
-                      MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.reach, s.select, out, lanes);
+                      MedianRow(LaneOf<T>(), C, maskSize.width, maskSize.height, rows, s.select, out, lanes);
                     });
   return pelStatusOk;
 }

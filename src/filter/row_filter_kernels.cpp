@@ -45,7 +45,7 @@ void BoxColumns8Target(int kh, const uint8_t* const* rows, const uint8_t* add, c
 void BoxMeans8Target(int C, int kw, int kh, const uint16_t* col, uint8_t* dst, int64_t lanes) {
   scalar::BoxMeans8(C, kw, kh, col, dst, 0, lanes);
 }
-void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* /*wide*/, void* scratch, void* dst0,
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* scratch, void* dst0,
                          void* dst1, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
@@ -53,7 +53,7 @@ void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* /*w
     scalar::MedianRow(C, 3, 3, rows + 1, static_cast<T*>(scratch), static_cast<T*>(dst1), 0, lanes);
   });
 }
-void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* /*wide*/, void* scratch,
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
@@ -479,56 +479,36 @@ int64_t MedianByNetwork(int C, int kw, int kh, const uint8_t* const* rows, T* ds
   return l;
 }
 
-// The medians of one output row from its sorted columns (lo, mid, hi: the
-// least, middle and greatest of each column of three, C lanes apart).
-template <class D, class T = hn::TFromD<D>>
-HWY_INLINE void Median3x3Combine(D d, int C, const T* lo, const T* mid, const T* hi, T* dst, int64_t len) {
-  const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-  auto med3 = [](auto a, auto b, auto c) { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
-  for (int64_t l = 0, skew = Skew(dst, N); l < len; l = Next(l, skew, N)) {
-    const int64_t at = std::min(l, len - N);
-    const auto maxLo = hn::Max(hn::Max(hn::LoadU(d, lo + at), hn::LoadU(d, lo + at + C)), hn::LoadU(d, lo + at + 2 * C));
-    const auto minHi = hn::Min(hn::Min(hn::LoadU(d, hi + at), hn::LoadU(d, hi + at + C)), hn::LoadU(d, hi + at + 2 * C));
-    const auto medMid = med3(hn::LoadU(d, mid + at), hn::LoadU(d, mid + at + C), hn::LoadU(d, mid + at + 2 * C));
-    hn::StoreU(med3(maxLo, medMid, minHi), d, dst + at);
-  }
-}
-
-// 3x3: each column of three is sorted once for the three outputs that share
-// it; the median of the nine is then the median of the largest column
-// minimum, the median of the column medians and the smallest column maximum.
+// 3x3, one output row, in one pass over its three rows: each of the three
+// columns is sorted, and the median of the nine is the median of the
+// largest column minimum, the median of the column medians and the smallest
+// column maximum. Floats keep this order of comparisons on every target, as
+// the scalar reference has it (it decides which of -0 and +0 comes out).
 template <class T>
-int64_t Median3x3(int C, const uint8_t* const* rows, T* wide, T* dst, int64_t lanes) {
+int64_t Median3x3(int C, const uint8_t* const* rows, T* dst, int64_t lanes) {
   const hn::ScalableTag<T> d;
+  using V = hn::Vec<decltype(d)>;
   const int64_t N = static_cast<int64_t>(hn::Lanes(d));
-  // Pieces of the row small enough for the sorted columns to stay in the
-  // first-level cache between the two passes.
   if (lanes < N) return 0;
-  const int64_t piece =
-      std::min(lanes / N, std::max<int64_t>(1, 1536 / (N * static_cast<int64_t>(sizeof(T))))) * N;
-  T* lo = wide;
-  T* mid = wide + piece + 2 * C;
-  T* hi = mid + piece + 2 * C;
-  for (int64_t base = 0; base < lanes;) {
-    int64_t len = std::min(piece, lanes - base);
-    if (len < N) {  // a last piece of one vector overlapping the one before
-      base = lanes - N;
-      len = N;
+  auto med3 = [](V a, V b, V c) HWY_ATTR { return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c)); };
+  for (int64_t x = 0, skew = Skew(dst, N); x < lanes; x = Next(x, skew, N)) {
+    const int64_t l = std::min(x, lanes - N);  // the last vector may overlap the one before
+    PrefetchAhead<T>(rows[2], l);
+    V lo[3], mid[3], hi[3];
+    for (int k = 0; k < 3; ++k) {
+      const int64_t at = l + k * C;
+      const V a = hn::LoadU(d, At<T>(rows[0], at));
+      const V b = hn::LoadU(d, At<T>(rows[1], at));
+      const V c = hn::LoadU(d, At<T>(rows[2], at));
+      const V ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
+      const V t = hn::Max(ab0, c);
+      lo[k] = hn::Min(ab0, c);
+      mid[k] = hn::Min(ab1, t);
+      hi[k] = hn::Max(ab1, t);
     }
-    const int64_t span = len + 2 * C;
-    for (int64_t l = 0; l < span; l += N) {
-      const int64_t at = std::min(l, span - N);  // the last vector overlaps: sorting is idempotent
-      const auto a = hn::LoadU(d, At<T>(rows[0], base + at));
-      const auto b = hn::LoadU(d, At<T>(rows[1], base + at));
-      const auto c = hn::LoadU(d, At<T>(rows[2], base + at));
-      const auto ab0 = hn::Min(a, b), ab1 = hn::Max(a, b);
-      hn::StoreU(hn::Min(ab0, c), d, lo + at);
-      const auto t = hn::Max(ab0, c);
-      hn::StoreU(hn::Min(ab1, t), d, mid + at);
-      hn::StoreU(hn::Max(ab1, t), d, hi + at);
-    }
-    Median3x3Combine(d, C, lo, mid, hi, dst + base, len);
-    base += len;
+    const V maxLo = hn::Max(hn::Max(lo[0], lo[1]), lo[2]);
+    const V minHi = hn::Min(hn::Min(hi[0], hi[1]), hi[2]);
+    hn::StoreU(med3(maxLo, med3(mid[0], mid[1], mid[2]), minHi), d, dst + l);
   }
   return lanes;
 }
@@ -572,7 +552,7 @@ void Median3x3Pair(int C, const uint8_t* const* rows, T* dst0, T* dst1, int64_t 
   }
 }
 
-void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* /*wide*/, void* scratch, void* dst0,
+void Median3x3PairTarget(Lane lane, int C, const uint8_t* const* rows, void* scratch, void* dst0,
                          void* dst1, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
@@ -628,13 +608,13 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   return lanes;
 }
 
-void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch,
+void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
     using T = decltype(t);
     int64_t done = 0;
     if constexpr (!std::is_same_v<T, double>) {
-      if (kw == 3 && kh == 3) done = Median3x3(C, rows, static_cast<T*>(wide), static_cast<T*>(dst), lanes);
+      if (kw == 3 && kh == 3) done = Median3x3(C, rows, static_cast<T*>(dst), lanes);
       else if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
       else if constexpr (std::is_same_v<T, uint8_t>) {
         if (kw * kh <= 255) done = MedianByBits(C, kw, kh, rows, static_cast<T*>(dst), lanes);
@@ -776,17 +756,17 @@ void ExtremeHorizontal(Lane lane, bool max, int C, int kw, const uint8_t* row, v
   HWY_DYNAMIC_DISPATCH(ExtremeHorizontalTarget)(lane, max, C, kw, row, dst, lanes);
 }
 void ExtremePair(const ExtremePairJob& job, int64_t lanes) { HWY_DYNAMIC_DISPATCH(ExtremePairTarget)(job, lanes); }
-void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
                int64_t lanes) {
-  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, wide, scratch, dst, lanes);
+  HWY_DYNAMIC_DISPATCH(MedianRowTarget)(lane, C, kw, kh, rows, scratch, dst, lanes);
 }
 void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* colSums, void* dst,
             int64_t lanes) {
   HWY_DYNAMIC_DISPATCH(BoxRowTarget)(lane, C, kw, kh, rows, colSums, dst, lanes);
 }
-void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* scratch, void* dst0, void* dst1,
                    int64_t lanes) {
-  HWY_DYNAMIC_DISPATCH(Median3x3PairTarget)(lane, C, rows, wide, scratch, dst0, dst1, lanes);
+  HWY_DYNAMIC_DISPATCH(Median3x3PairTarget)(lane, C, rows, scratch, dst0, dst1, lanes);
 }
 void BoxColumns8(int kh, const uint8_t* const* rows, const uint8_t* add, const uint8_t* sub, uint16_t* col,
                  int64_t lanes) {

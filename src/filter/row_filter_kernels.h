@@ -84,9 +84,8 @@ struct ExtremePairJob {
 };
 void ExtremePair(const ExtremePairJob& job, int64_t lanes);
 
-// Median over kw x kh (odd sizes); wide holds 3 x (lanes + (kw - 1) x C)
-// elements, scratch kw x kh.
-void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* wide, void* scratch, void* dst,
+// Median over kw x kh (odd sizes); scratch holds kw x kh elements.
+void MedianRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch, void* dst,
                int64_t lanes);
 
 // Box mean over kw x kh; colSums holds lanes + (kw - 1) x C eight-byte sums.
@@ -94,8 +93,8 @@ void BoxRow(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* 
             int64_t lanes);
 
 // Two output rows of the 3x3 median of 8- and 16-bit lanes: rows holds the
-// four rows they cover; wide holds 6 x (lanes + 2C) elements.
-void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* wide, void* scratch, void* dst0, void* dst1,
+// four rows they cover; scratch holds 9 elements.
+void Median3x3Pair(Lane lane, int C, const uint8_t* const* rows, void* scratch, void* dst0, void* dst1,
                    int64_t lanes);
 
 // The 8-bit box of at most 257 taps with running column sums in 16-bit
