@@ -133,6 +133,8 @@ const pelbench::Case kCases[] = {
     PEL_RANK_CASE("median_5x5_8u", Op::Median, 5, 5, CV_8UC1, 2),
     PEL_RANK_CASE("median_3x3_8u_C3", Op::Median, 3, 3, CV_8UC3, 6),
     PEL_RANK_CASE("median_7x7_8u", Op::Median, 7, 7, CV_8UC1, 2),
+    PEL_RANK_CASE("median_15x15_8u", Op::Median, 15, 15, CV_8UC1, 2),
+    PEL_RANK_CASE("median_21x21_8u", Op::Median, 21, 21, CV_8UC1, 2),
     PEL_RANK_CASE("min_3x3_8u", Op::Min, 3, 3, CV_8UC1, 2),
     PEL_RANK_CASE("min_7x7_8u", Op::Min, 7, 7, CV_8UC1, 2),
     PEL_RANK_CASE("min_3x3_32f", Op::Min, 3, 3, CV_32FC1, 8),

@@ -576,7 +576,7 @@ std::vector<Row> FilterRows() {
   }
   {
     // The median's methods by mask (the selection networks, bit-by-bit
-    // selection up to 255 taps, the plain selection beyond), its border
+    // selection up to 255 taps, the sliding histogram beyond), its border
     // codes; box sums beyond 16 bits; bad masks and codes.
     std::vector<Mask> masks{{7, 7, pelBorderInMem}, {1, 5, pelBorderReplicate}, {5, 1, pelBorderConstant},
                             {3, 5, pelBorderReplicate}, {17, 3, pelBorderReplicate | pelBorderInMemTop},
@@ -584,8 +584,10 @@ std::vector<Row> FilterRows() {
     PEL_RANK(Median, Op::Median, 8u, C1, 1, 1, peliFilterMedianBorder_8u_C1R, nullptr);
     masks.pop_back();
     PEL_RANK(Median, Op::Median, 16s, C1, 1, 1, peliFilterMedianBorder_16s_C1R, nullptr);
-    masks = {{7, 7, pelBorderReplicate}, {9, 9, pelBorderReplicate}};
+    masks = {{7, 7, pelBorderReplicate}, {9, 9, pelBorderReplicate}, {17, 17, pelBorderConstant | pelBorderInMemRight}};
     PEL_RANK(Median, Op::Median, 8u, C3, 3, 3, peliFilterMedianBorder_8u_C3R, nullptr);
+    masks = {{19, 15, pelBorderReplicate | pelBorderInMemTop}};
+    PEL_RANK(Median, Op::Median, 8u, AC4, 4, 3, peliFilterMedianBorder_8u_AC4R, nullptr);
     masks = {{9, 9, pelBorderReplicate}};
     PEL_RANK(Box, Op::Box, 8u, C3, 3, 3, nullptr, peliFilterBoxBorder_8u_C3R);
     masks = {{23, 13, pelBorderReplicate}, {1, 1, pelBorderMirror}};

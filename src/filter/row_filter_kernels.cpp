@@ -608,6 +608,35 @@ int64_t MedianByBits(int C, int kw, int kh, const uint8_t* const* rows, uint8_t*
   return lanes;
 }
 
+// 8-bit medians of more than 255 taps: a histogram of the window slides
+// along the row, one channel at a time. Each step takes the leaving column
+// out and the entering one in, and the median walks from where it was, so
+// a step costs about 2 x kh counts instead of a selection among kw x kh.
+int64_t MedianByHistogram(int C, int kw, int kh, const uint8_t* const* rows, uint8_t* dst, int64_t lanes) {
+  const int rank = (kw * kh - 1) / 2;
+  const int64_t enter = int64_t{kw - 1} * C;
+  for (int c = 0; c < C && c < lanes; ++c) {
+    uint32_t hist[256] = {};
+    for (int i = 0; i < kh; ++i)
+      for (int j = 0; j < kw; ++j) ++hist[rows[i][c + j * C]];
+    int m = 0, below = 0;  // below: taps less than m
+    while (below + static_cast<int>(hist[m]) <= rank) below += static_cast<int>(hist[m++]);
+    dst[c] = static_cast<uint8_t>(m);
+    for (int64_t l = c + C; l < lanes; l += C) {
+      for (int i = 0; i < kh; ++i) {
+        const int out = rows[i][l - C], in = rows[i][l + enter];
+        --hist[out];
+        ++hist[in];
+        below += (in < m) - (out < m);
+      }
+      while (below > rank) below -= static_cast<int>(hist[--m]);
+      while (below + static_cast<int>(hist[m]) <= rank) below += static_cast<int>(hist[m++]);
+      dst[l] = static_cast<uint8_t>(m);
+    }
+  }
+  return lanes;
+}
+
 void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* rows, void* scratch,
                      void* dst, int64_t lanes) {
   VisitLane(lane, [&](auto t) {
@@ -618,6 +647,7 @@ void MedianRowTarget(Lane lane, int C, int kw, int kh, const uint8_t* const* row
       else if (kw * kh <= MedianNetwork::kMaxWires) done = MedianByNetwork(C, kw, kh, rows, static_cast<T*>(dst), lanes);
       else if constexpr (std::is_same_v<T, uint8_t>) {
         if (kw * kh <= 255) done = MedianByBits(C, kw, kh, rows, static_cast<T*>(dst), lanes);
+        else done = MedianByHistogram(C, kw, kh, rows, static_cast<T*>(dst), lanes);
       }
     }
     scalar::MedianRow(C, kw, kh, rows, static_cast<T*>(scratch), static_cast<T*>(dst), done, lanes);
